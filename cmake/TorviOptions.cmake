@@ -1,0 +1,24 @@
+# SPDX-FileCopyrightText: 2026 The Torvi developers
+# SPDX-License-Identifier: MIT
+
+# What every target is compiled with: warnings, Qt's strict definitions, sanitizers, coverage.
+add_library(torvi_options INTERFACE)
+add_library(Torvi::Options ALIAS torvi_options)
+
+target_compile_options(torvi_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${TORVI_WERROR}>:-Werror>)
+target_compile_definitions(torvi_options INTERFACE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+target_include_directories(torvi_options INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(TORVI_SANITIZE)
+    # One bad value must fail a test, not scroll by: nothing recovers.
+    add_compile_options(-fsanitize=${TORVI_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${TORVI_SANITIZE})
+endif()
+if(TORVI_COVERAGE)
+    add_compile_options(--coverage -fprofile-update=atomic)
+    add_link_options(--coverage)
+endif()
