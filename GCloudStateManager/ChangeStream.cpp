@@ -15,6 +15,27 @@ namespace torvi {
 class ChangeStream::State : public std::enable_shared_from_this<State>
 {
 public:
+    /// Suspends the consumer until there is an element or the end.
+    struct Next
+    {
+        std::shared_ptr<State> state;
+
+        [[nodiscard]] bool await_ready() const
+        {
+            return false;
+        }
+
+        [[nodiscard]] bool await_suspend(std::coroutine_handle<> consumer) const
+        {
+            return state->suspend(consumer);
+        }
+
+        [[nodiscard]] bool await_resume() const
+        {
+            return state->take();
+        }
+    };
+
     void yield()
     {
         const std::lock_guard guard(m_lock);
@@ -58,12 +79,6 @@ public:
         if (callback) {
             callback();
         }
-    }
-
-    [[nodiscard]] bool isReady()
-    {
-        const std::lock_guard guard(m_lock);
-        return m_buffered > 0 || m_ended;
     }
 
     [[nodiscard]] bool suspend(std::coroutine_handle<> consumer)
@@ -114,26 +129,6 @@ private:
     QObject m_waker;
 };
 
-ChangeStream::Next::Next(std::shared_ptr<State> state)
-    : m_state(std::move(state))
-{
-}
-
-bool ChangeStream::Next::await_ready() const
-{
-    return m_state->isReady();
-}
-
-bool ChangeStream::Next::await_suspend(std::coroutine_handle<> consumer)
-{
-    return m_state->suspend(consumer);
-}
-
-bool ChangeStream::Next::await_resume()
-{
-    return m_state->take();
-}
-
 ChangeStream::ChangeStream()
     : m_state(std::make_shared<State>())
 {
@@ -154,9 +149,10 @@ void ChangeStream::onCancel(std::function<void()> callback)
     m_state->onCancel(std::move(callback));
 }
 
-ChangeStream::Next ChangeStream::next()
+QCoro::Task<bool> ChangeStream::next()
 {
-    return Next(m_state);
+    State::Next next{ m_state }; // a local: g++ 12 does not keep the temporary alive
+    co_return co_await next;
 }
 
 void ChangeStream::cancel()

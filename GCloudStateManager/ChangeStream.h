@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <qcoro/coroutine.h>
+#include <qcoro/qcorotask.h>
 
 #include <functional>
 #include <memory>
@@ -21,19 +21,6 @@ class ChangeStream
     class State;
 
 public:
-    /// Awaits one element; see next().
-    class Next
-    {
-    public:
-        explicit Next(std::shared_ptr<State> state);
-        [[nodiscard]] bool await_ready() const;
-        [[nodiscard]] bool await_suspend(std::coroutine_handle<> consumer);
-        [[nodiscard]] bool await_resume();
-
-    private:
-        std::shared_ptr<State> m_state;
-    };
-
     ChangeStream();
 
     /// Adds an element. Thread: any.
@@ -45,8 +32,9 @@ public:
     void onCancel(std::function<void()> callback);
 
     /// `co_await stream.next()`: true for an element, false once the stream has ended. The consumer
-    /// resumes from its thread's event loop, never inside yield().
-    [[nodiscard]] Next next();
+    /// resumes from its thread's event loop, never inside yield(). Store the result in a variable
+    /// before testing it: g++ 12 destroys the task too early in the condition of a loop.
+    [[nodiscard]] QCoro::Task<bool> next();
     /// Ends the stream at once, dropping what is buffered. Thread: the consumer's.
     void cancel();
 

@@ -22,7 +22,11 @@ struct Consumed
 
 QCoro::Task<> consume(ChangeStream stream, std::shared_ptr<Consumed> consumed)
 {
-    while (co_await stream.next()) {
+    for (;;) {
+        const bool more = co_await stream.next(); // not in the condition: see ChangeStream::next()
+        if (!more) {
+            break;
+        }
         ++consumed->elements;
     }
     consumed->ended = true;
