@@ -73,7 +73,7 @@ public:
 
     /// Asks the child and what it leads to end; whatever is left of them when the child has exited
     /// or `grace` has passed is killed. Returns when the child is gone.
-    void end(std::chrono::milliseconds grace);
+    void end(std::chrono::milliseconds grace = std::chrono::seconds(1));
 
 private:
     ChildProcess(pid_t pid, Leads leads, FileDescriptor output, FileDescriptor error);

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <stop_token>
+
 namespace torvi {
 
 /// Finds the gcloud executable.
@@ -15,10 +17,10 @@ public:
 
     /// The path of an executable gcloud, searched for anew at each call.
     ///
-    /// Thread: any, several at once; may block for long (it can run the user's shell), so never
-    /// called on the main thread.
-    /// Errors: throws AppError::gcloudNotFound().
-    [[nodiscard]] virtual QString resolve() const = 0;
+    /// Thread: any, several at once; may block for long (it can run the user's shell), so not for
+    /// the thread of an event loop. A request to `stop` ends a running shell and the search.
+    /// Errors: throws AppError::gcloudNotFound(), also when it was stopped.
+    [[nodiscard]] virtual QString resolve(std::stop_token stop = {}) const = 0;
 
 protected:
     GCloudPathResolving() = default;
