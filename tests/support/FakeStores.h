@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "GCloudStateManager/FavoritesStoring.h"
+#include "GCloudStateManager/RecentStoring.h"
+#include "GCloudStateManager/ServiceAccountStoring.h"
+#include "GCloudStateManager/SettingsStoring.h"
+
+namespace torvi {
+
+class FakeFavoritesStore final : public FavoritesStoring
+{
+public:
+    QSet<QString> ids;
+
+    [[nodiscard]] bool isPinned(const QString &projectId) const override
+    {
+        return ids.contains(projectId);
+    }
+
+    void pin(const QString &projectId) override
+    {
+        ids.insert(projectId);
+    }
+
+    void unpin(const QString &projectId) override
+    {
+        ids.remove(projectId);
+    }
+
+    [[nodiscard]] QSet<QString> allPinned() const override
+    {
+        return ids;
+    }
+};
+
+class FakeRecentStore final : public RecentStoring
+{
+public:
+    QStringList ids;
+
+    void recordUsage(const QString &projectId) override
+    {
+        ids.removeAll(projectId);
+        ids.prepend(projectId);
+    }
+
+    [[nodiscard]] QStringList recentProjectIds() const override
+    {
+        return ids;
+    }
+};
+
+class FakeServiceAccountStore final : public ServiceAccountStoring
+{
+public:
+    AccountsByProject accounts;
+
+    [[nodiscard]] QList<ServiceAccount> serviceAccounts(const QString &forProject) const override
+    {
+        return accounts.value(forProject);
+    }
+
+    void addServiceAccount(const ServiceAccount &account) override
+    {
+        accounts[account.projectId].append(account);
+    }
+
+    void removeServiceAccount(const QString &email, const QString &fromProject) override
+    {
+        accounts[fromProject].removeIf(
+            [&email](const ServiceAccount &account) { return account.email == email; });
+    }
+
+    [[nodiscard]] AccountsByProject allServiceAccounts() const override
+    {
+        return accounts;
+    }
+};
+
+class FakeSettingsStore final : public SettingsStoring
+{
+public:
+    bool isLaunchedAtLogin = false;
+    MenubarDisplayFormat format = MenubarDisplayFormat::iconAndProject;
+    std::optional<QString> path;
+    qint64 interval = 5;
+
+    [[nodiscard]] bool launchAtLogin() const override
+    {
+        return isLaunchedAtLogin;
+    }
+
+    void setLaunchAtLogin(bool launchAtLogin) override
+    {
+        isLaunchedAtLogin = launchAtLogin;
+    }
+
+    [[nodiscard]] MenubarDisplayFormat menubarDisplayFormat() const override
+    {
+        return format;
+    }
+
+    void setMenubarDisplayFormat(MenubarDisplayFormat newFormat) override
+    {
+        format = newFormat;
+    }
+
+    [[nodiscard]] std::optional<QString> gcloudPathOverride() const override
+    {
+        return path;
+    }
+
+    void setGcloudPathOverride(const std::optional<QString> &newPath) override
+    {
+        path = newPath;
+    }
+
+    [[nodiscard]] qint64 refreshIntervalMinutes() const override
+    {
+        return interval;
+    }
+
+    void setRefreshIntervalMinutes(qint64 minutes) override
+    {
+        interval = minutes;
+    }
+};
+
+} // namespace torvi
