@@ -17,7 +17,7 @@ namespace torvi {
 
 namespace {
 
-/// What execve() takes. Made before the fork: the child must not allocate.
+/// What execve() takes, pointing into `texts`. Made before the fork: the child must not allocate.
 std::vector<char *> pointers(const std::vector<std::string> &texts)
 {
     std::vector<char *> result;
@@ -136,7 +136,8 @@ pid_t forkExec(const ForkExec &order)
     ensureExitCodesAreKept();
     Pipe errorPipe = Pipe::open();
     const auto arguments = pointers(order.arguments);
-    const auto environment = pointers(order.environment.value_or(std::vector<std::string>()));
+    const auto environment
+        = order.environment.has_value() ? pointers(*order.environment) : std::vector<char *>();
     const pid_t pid
         = forkInto({ .order = order,
                      .arguments = arguments.data(),

@@ -54,9 +54,6 @@ OutputReader::End OutputReader::read(Limits limits)
     bool exited = false;
     Deadline deadline = limits.exit;
     while (Clock::now() < deadline && pollUntil(m_events, deadline)) {
-        if (m_events[kStop].revents != 0) {
-            return End::stopped;
-        }
         if (!takeReady()) {
             return End::refused;
         }
@@ -64,6 +61,12 @@ OutputReader::End OutputReader::read(Limits limits)
             exited = true;
             deadline = Clock::now() + limits.drain;
             close(m_events[kExit]);
+        }
+        if (m_events[kStop].revents != 0) {
+            if (!exited) {
+                return End::stopped;
+            }
+            break; // the result only comes sooner
         }
     }
     if (!exited) {
