@@ -91,7 +91,10 @@ std::optional<QString> GCloudPathResolver::fromStartUpFiles() const
 {
     for (const QString &name : m_places.startUpFiles) {
         const auto bytes = GCloudFile::readFile(m_places.homeDirectory + u'/' + name);
-        const auto text = bytes.has_value() ? decodeUtf8(*bytes) : std::nullopt;
+        if (!bytes.has_value() || !StartUpLine::canBeIn(*bytes)) {
+            continue;
+        }
+        const auto text = decodeUtf8(*bytes);
         const auto path
             = text.has_value() ? gcloudNamedIn(*text, m_places.homeDirectory) : std::nullopt;
         if (path.has_value()) {

@@ -70,7 +70,11 @@ GCloudResult resultOf(ChildProcess &gcloud, const GCloudRun::Order &order, const
         gcloud.end();
         throw stopped();
     }
-    return { .exitCode = gcloud.exitCode(), .stdout = text(output), .stderr = text(error) };
+    GCloudResult result{ .exitCode = gcloud.exitCode(),
+                         .stdout = text(output),
+                         .stderr = text(error) };
+    reader.waitOut(); // last, so that decoding a long output costs no extra time
+    return result;
 }
 
 GCloudResult runGCloud(const std::stop_token &stop, const GCloudRun::Order &order)

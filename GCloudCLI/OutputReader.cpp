@@ -53,13 +53,13 @@ OutputReader::End OutputReader::read(Limits limits)
 {
     bool exited = false;
     Deadline deadline = limits.exit;
-    while (Clock::now() < deadline && pollUntil(m_events, deadline)) {
+    while ((!exited || canRead()) && Clock::now() < deadline && pollUntil(m_events, deadline)) {
         if (!takeReady()) {
             return End::refused;
         }
         if (m_events[kExit].revents != 0) {
             exited = true;
-            deadline = Clock::now() + limits.drain;
+            deadline = m_drainEnd = Clock::now() + limits.drain;
             close(m_events[kExit]);
         }
         if (m_events[kStop].revents != 0) {
@@ -73,6 +73,16 @@ OutputReader::End OutputReader::read(Limits limits)
         return End::timedOut;
     }
     return takeRest() ? End::exited : End::refused;
+}
+
+void OutputReader::waitOut()
+{
+    [[maybe_unused]] const bool stopped = pollUntil({ &m_events[kStop], 1 }, m_drainEnd);
+}
+
+bool OutputReader::canRead() const
+{
+    return m_events[kOutput].fd >= 0 || m_events[kError].fd >= 0;
 }
 
 std::array<OutputReader::Stream, 2> OutputReader::streams()

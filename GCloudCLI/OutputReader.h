@@ -38,8 +38,12 @@ public:
     /// A missing sink is for a stream that is discarded. All arguments must outlive the reader.
     OutputReader(const ChildProcess &child, const StopEvent &stop, Sink output, Sink error = {});
 
-    /// Blocks; the sinks are called on this thread. To be called once.
+    /// Blocks; the sinks are called on this thread. To be called once. Returns after the exit, as
+    /// soon as the drain time is over or nothing more can come.
     [[nodiscard]] End read(Limits limits);
+
+    /// Waits for what read() has left of the drain time, or for a stop.
+    void waitOut();
 
 private:
     struct Stream
@@ -53,7 +57,10 @@ private:
     [[nodiscard]] bool takeRest();
     [[nodiscard]] bool take(const Stream &stream, qsizetype limit);
 
+    [[nodiscard]] bool canRead() const;
+
     std::array<pollfd, 4> m_events; // output, error, exit, stop
+    Deadline m_drainEnd{};
     Sink m_output;
     Sink m_error;
     QByteArray m_chunk;

@@ -20,7 +20,7 @@ public:
 
 private:
     mutable std::mutex m_lock;
-    QByteArray m_data; // grows geometrically
+    QByteArray m_data;
 };
 
 } // namespace torvi

@@ -9,6 +9,9 @@ namespace torvi::StartUpLine {
 
 namespace {
 
+constexpr QByteArrayView kPathFile = "google-cloud-sdk/path.";
+constexpr QStringView kPathFileText = u"google-cloud-sdk/path.";
+
 std::optional<QStringView> afterLast(QChar separator, QStringView text)
 {
     const qsizetype position = text.lastIndexOf(separator);
@@ -23,9 +26,14 @@ std::optional<QStringView> afterLastQuote(QStringView text)
 
 } // namespace
 
+bool canBeIn(QByteArrayView file)
+{
+    return file.contains(kPathFile);
+}
+
 std::optional<QString> sdkParentFolder(QStringView line)
 {
-    const qsizetype position = line.indexOf(u"google-cloud-sdk/path.");
+    const qsizetype position = line.indexOf(kPathFileText);
     if (position < 0) {
         return std::nullopt;
     }

@@ -78,7 +78,7 @@ TEST_F(OutputReaderTest, StopsWhenAsked)
 
 TEST_F(OutputReaderTest, AStopAfterTheExitOnlyCutsTheDrainTimeShort)
 {
-    const ChildProcess child = start(u"echo out"_s);
+    const ChildProcess child = start(u"sleep 1000 & echo out"_s); // the pipes stay open
     waitForExit(child);
     stop.request_stop();
 
@@ -120,6 +120,49 @@ TEST_F(OutputReaderTest, GivesUpWhenASinkRefusesTheRest)
     accepts = false;
 
     EXPECT_EQ(read(child, { .drain = 0s }), End::refused);
+}
+
+TEST_F(OutputReaderTest, DoesNotWaitForTheDrainTimeWhenNothingMoreCanCome)
+{
+    const ChildProcess child = start(u"echo out"_s);
+
+    EXPECT_EQ(read(child, { .drain = 1h }), End::exited);
+
+    EXPECT_EQ(output, "out\n");
+}
+
+TEST_F(OutputReaderTest, WaitsForTheExitAlsoWhenNothingMoreCanCome)
+{
+    const ChildProcess child = start(u"exec >&- 2>&-; sleep 1000"_s);
+
+    EXPECT_EQ(read(child, { .drain = 0s, .exit = std::chrono::steady_clock::now() + 50ms }),
+              End::timedOut);
+}
+
+TEST_F(OutputReaderTest, WaitsOutTheDrainTimeOnDemand)
+{
+    const ChildProcess child = start(u"echo out"_s);
+    const StopEvent stopEvent(stop.get_token());
+    const auto ignore = [](QByteArrayView) { return true; };
+    OutputReader reader(child, stopEvent, ignore, ignore);
+    const auto begin = std::chrono::steady_clock::now();
+    ASSERT_EQ(reader.read({ .drain = 20ms }), End::exited);
+
+    reader.waitOut();
+
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, 20ms);
+}
+
+TEST_F(OutputReaderTest, AStopEndsTheWaitForTheDrainTime)
+{
+    const ChildProcess child = start(u"echo out"_s);
+    const StopEvent stopEvent(stop.get_token());
+    const auto ignore = [](QByteArrayView) { return true; };
+    OutputReader reader(child, stopEvent, ignore, ignore);
+    ASSERT_EQ(reader.read({ .drain = 1h }), End::exited);
+    stop.request_stop();
+
+    reader.waitOut();
 }
 
 } // namespace torvi

@@ -23,6 +23,9 @@ class StartUpLineTest : public testing::TestWithParam<LineAndFolder>
 TEST_P(StartUpLineTest, TellsTheFolderThatTheSdkIsIn)
 {
     EXPECT_EQ(StartUpLine::sdkParentFolder(GetParam().line), GetParam().folder);
+    if (GetParam().folder.has_value()) {
+        EXPECT_TRUE(StartUpLine::canBeIn(GetParam().line.toUtf8()));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -60,5 +63,11 @@ INSTANTIATE_TEST_SUITE_P(
         LineAndFolder{ "Unrelated", u"export EDITOR=vi"_s, std::nullopt },
         LineAndFolder{ "Empty", u""_s, std::nullopt }),
     [](const auto &row) { return std::string(row.param.name); });
+
+TEST(StartUpLineFileTest, AFileWithoutThePathFileNeedsNoLook)
+{
+    EXPECT_FALSE(StartUpLine::canBeIn("alias ll='ls -l'\nsource /opt/google-cloud-sdk/x.inc\n"));
+    EXPECT_TRUE(StartUpLine::canBeIn("#\nsource /opt/google-cloud-sdk/path.zsh.inc\n"));
+}
 
 } // namespace torvi
