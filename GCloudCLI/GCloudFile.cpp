@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -90,6 +92,30 @@ std::optional<QByteArray> readFile(const QString &path)
         return std::nullopt;
     }
     return readDescriptor(descriptor, status.st_size);
+}
+
+std::optional<QStringList> entryNames(const QString &path)
+{
+    if (!isNameable(path)) {
+        return std::nullopt;
+    }
+    DIR *directory = ::opendir(QFile::encodeName(path).constData());
+    if (directory == nullptr) {
+        return std::nullopt;
+    }
+    const auto close = qScopeGuard([directory] { ::closedir(directory); });
+    QStringList names;
+    while (true) {
+        errno = 0; // it alone tells an error from the end
+        const dirent *entry = ::readdir(directory);
+        if (entry == nullptr) {
+            return errno == 0 ? std::optional(names) : std::nullopt;
+        }
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") {
+            names.append(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+        }
+    }
 }
 
 } // namespace torvi::GCloudFile

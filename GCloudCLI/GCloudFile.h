@@ -4,7 +4,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -30,5 +30,9 @@ inline constexpr qint64 kMaximumSize = 16 * 1024 * 1024;
 /// file, unreadable or longer than kMaximumSize; anything but a regular file is not even opened,
 /// since opening alone can block (FIFOs) or act on the system (devices).
 [[nodiscard]] std::optional<QByteArray> readFile(const QString &path);
+
+/// Names of the entries of the directory `path`, whatever they are, in no particular order. What is
+/// not UTF-8 in them is replaced by replacement characters. Nothing when it cannot be listed whole.
+[[nodiscard]] std::optional<QStringList> entryNames(const QString &path);
 
 } // namespace torvi::GCloudFile

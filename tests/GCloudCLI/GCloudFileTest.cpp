@@ -3,11 +3,14 @@
 
 #include "GCloudCLI/GCloudFile.h"
 
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/support/FileEvents.h"
+#include "tests/support/NoMoreFiles.h"
+#include "tests/support/TestDirectory.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -17,6 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace torvi {
 
+using GCloudFile::entryNames;
 using GCloudFile::FileKind;
 using GCloudFile::fileKind;
 using GCloudFile::kMaximumSize;
@@ -27,42 +31,21 @@ class GCloudFileTest : public testing::Test
 protected:
     [[nodiscard]] QString path(const QString &name = u"file"_s) const
     {
-        return m_directory.filePath(name);
+        return directory.path(name);
     }
 
-    [[nodiscard]] QByteArray encoded(const QString &name = u"file"_s) const
+    [[nodiscard]] QByteArray encoded() const
     {
-        return QFile::encodeName(path(name));
+        return QFile::encodeName(path());
     }
 
-    void write(const QByteArray &bytes)
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(bytes), bytes.size());
-    }
-
-    /// A file of `size` bytes that occupies next to none.
-    void writeSparse(qint64 size)
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_TRUE(file.resize(size));
-    }
-
-    void link(const QString &target, const QString &name)
-    {
-        ASSERT_EQ(::symlink(QFile::encodeName(target).constData(), encoded(name).constData()), 0);
-    }
-
-private:
-    QTemporaryDir m_directory;
+    TestDirectory directory;
 };
 
 TEST_F(GCloudFileTest, ReadsAllBytes)
 {
     const QByteArray bytes("a\0\xFF\r\n", 5);
-    write(bytes);
+    directory.write(u"file"_s, bytes);
 
     EXPECT_EQ(fileKind(path()), FileKind::regular);
     EXPECT_EQ(readFile(path()), bytes);
@@ -70,7 +53,7 @@ TEST_F(GCloudFileTest, ReadsAllBytes)
 
 TEST_F(GCloudFileTest, ReadsTheEmptyFile)
 {
-    write({});
+    directory.write(u"file"_s, {});
 
     EXPECT_EQ(readFile(path()), QByteArray());
 }
@@ -93,8 +76,8 @@ TEST_F(GCloudFileTest, ReadsAFileWhoseSizeTheSystemDoesNotTell)
 
 TEST_F(GCloudFileTest, FollowsLinks)
 {
-    write("text");
-    link(path(), u"link"_s);
+    directory.write(u"file"_s, "text");
+    directory.makeLink(u"link"_s, u"file"_s);
 
     EXPECT_EQ(fileKind(path(u"link"_s)), FileKind::regular);
     EXPECT_EQ(readFile(path(u"link"_s)), "text");
@@ -108,16 +91,16 @@ TEST_F(GCloudFileTest, MissingFileIsMissing)
 
 TEST_F(GCloudFileTest, FileBelowAFileIsMissing)
 {
-    write("text");
+    directory.write(u"file"_s, "text");
 
     EXPECT_EQ(fileKind(path(u"file/below"_s)), FileKind::missing);
 }
 
 TEST_F(GCloudFileTest, DanglingAndLoopingLinksAreMissing)
 {
-    link(path(u"nowhere"_s), u"dangling"_s);
-    link(path(u"one"_s), u"other"_s);
-    link(path(u"other"_s), u"one"_s);
+    directory.makeLink(u"dangling"_s, u"nowhere"_s);
+    directory.makeLink(u"other"_s, u"one"_s);
+    directory.makeLink(u"one"_s, u"other"_s);
 
     EXPECT_EQ(fileKind(path(u"dangling"_s)), FileKind::missing);
     EXPECT_EQ(fileKind(path(u"one"_s)), FileKind::missing);
@@ -131,7 +114,7 @@ TEST_F(GCloudFileTest, NameLongerThanTheSystemAllowsIsMissing)
 
 TEST_F(GCloudFileTest, NameWithANulIsMissingAndNotCutOffThere)
 {
-    write("text");
+    directory.write(u"file"_s, "text");
     const QString name = path() + QChar(u'\0') + u"more"_s;
 
     EXPECT_EQ(fileKind(name), FileKind::missing);
@@ -140,20 +123,26 @@ TEST_F(GCloudFileTest, NameWithANulIsMissingAndNotCutOffThere)
 
 TEST_F(GCloudFileTest, DirectoryIsNotRead)
 {
-    ASSERT_EQ(::mkdir(encoded().constData(), 0700), 0);
+    directory.makeFolder(u"file"_s);
 
     EXPECT_EQ(fileKind(path()), FileKind::directory);
     EXPECT_EQ(readFile(path()), std::nullopt);
 }
 
-TEST_F(GCloudFileTest, FifoWithoutAWriterIsNotWaitedFor)
+TEST_F(GCloudFileTest, FifoIsNotEvenOpened)
 {
-    ASSERT_EQ(::mkfifo(encoded().constData(), 0600), 0);
-    link(path(), u"link"_s);
+    directory.makeFifo(u"file"_s);
+    directory.makeLink(u"link"_s, u"file"_s);
+
+    FileEvents events(directory.path());
 
     EXPECT_EQ(fileKind(path()), FileKind::special);
     EXPECT_EQ(readFile(path()), std::nullopt);
     EXPECT_EQ(readFile(path(u"link"_s)), std::nullopt);
+
+    EXPECT_EQ(events.taken(), QStringList());
+    ::close(::open(encoded().constData(), O_RDONLY | O_NONBLOCK));
+    EXPECT_EQ(events.taken(), QStringList{ u"OPEN file"_s }) << "nothing would have been noticed";
 }
 
 TEST_F(GCloudFileTest, SocketAndDeviceAreNotRead)
@@ -176,7 +165,7 @@ TEST_F(GCloudFileTest, SocketAndDeviceAreNotRead)
 
 TEST_F(GCloudFileTest, ReadsUpToTheMaximumSize)
 {
-    writeSparse(kMaximumSize);
+    directory.writeSparse(u"file"_s, kMaximumSize);
 
     const std::optional<QByteArray> bytes = readFile(path());
 
@@ -186,7 +175,7 @@ TEST_F(GCloudFileTest, ReadsUpToTheMaximumSize)
 
 TEST_F(GCloudFileTest, DoesNotReadBeyondTheMaximumSize)
 {
-    writeSparse(kMaximumSize + 1);
+    directory.writeSparse(u"file"_s, kMaximumSize + 1);
 
     EXPECT_EQ(fileKind(path()), FileKind::regular);
     EXPECT_EQ(readFile(path()), std::nullopt);
@@ -197,7 +186,7 @@ TEST_F(GCloudFileTest, FileWithoutPermissionIsNotRead)
     if (::geteuid() == 0) {
         GTEST_SKIP() << "root may read every file";
     }
-    write("text");
+    directory.write(u"file"_s, "text");
     ASSERT_EQ(::chmod(encoded().constData(), 0), 0);
 
     EXPECT_EQ(fileKind(path()), FileKind::regular);
@@ -212,6 +201,48 @@ TEST_F(GCloudFileTest, FileInADirectoryWithoutPermissionIsNotCalledMissing)
     ASSERT_EQ(::mkdir(encoded().constData(), 0), 0);
 
     EXPECT_EQ(fileKind(path(u"file/below"_s)), FileKind::special);
+}
+
+TEST_F(GCloudFileTest, FileThatCannotBeOpenedIsNotRead)
+{
+    directory.write(u"file"_s, "text");
+    const NoMoreFiles limit;
+
+    EXPECT_EQ(fileKind(path()), FileKind::regular);
+    EXPECT_EQ(readFile(path()), std::nullopt);
+    EXPECT_EQ(entryNames(directory.path()), std::nullopt);
+}
+
+TEST_F(GCloudFileTest, ListsEveryEntryWhateverItIs)
+{
+    directory.write(u"file"_s, "text");
+    directory.write(u".hidden"_s, "");
+    directory.makeFolder(u"folder"_s);
+    directory.makeFifo(u"fifo"_s);
+    directory.makeLink(u"dangling"_s, u"nowhere"_s);
+
+    std::optional<QStringList> names = entryNames(directory.path());
+
+    ASSERT_TRUE(names);
+    std::ranges::sort(*names);
+    EXPECT_EQ(*names,
+              (QStringList{ u".hidden"_s, u"dangling"_s, u"fifo"_s, u"file"_s, u"folder"_s }));
+}
+
+TEST_F(GCloudFileTest, ListsAnEmptyDirectory)
+{
+    EXPECT_EQ(entryNames(directory.path()), QStringList());
+}
+
+TEST_F(GCloudFileTest, ListsNothingButDirectories)
+{
+    directory.write(u"file"_s, "text");
+    directory.makeFifo(u"fifo"_s);
+
+    EXPECT_EQ(entryNames(path()), std::nullopt);
+    EXPECT_EQ(entryNames(path(u"fifo"_s)), std::nullopt);
+    EXPECT_EQ(entryNames(path(u"missing"_s)), std::nullopt);
+    EXPECT_EQ(entryNames(directory.path() + QChar(u'\0')), std::nullopt);
 }
 
 } // namespace torvi
