@@ -113,6 +113,9 @@ private:
         std::coroutine_handle<> consumer;
         {
             const std::lock_guard guard(m_lock);
+            if (m_buffered == 0 && !m_ended) {
+                return; // the consumer took the element before it came to suspend
+            }
             consumer = std::exchange(m_consumer, nullptr);
         }
         if (consumer) {

@@ -69,6 +69,18 @@ TEST_F(ChangeStreamTest, ResumesTheConsumerFromTheEventLoopNotInsideYield)
     EXPECT_EQ(consumed->elements, 1);
 }
 
+TEST_F(ChangeStreamTest, GoesOnAfterTwoElementsThatCameBeforeTheConsumerResumed)
+{
+    consume(stream, consumed);
+    stream.yield();
+    stream.yield();
+
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(consumed->elements, 2);
+    EXPECT_FALSE(consumed->ended);
+}
+
 TEST_F(ChangeStreamTest, DeliversBufferedElementsAfterFinish)
 {
     stream.yield();
