@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/torvictl/TorvictlProgram.h"
+
+#include <QFile>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace torvi {
+
+class TorvictlStatusTest : public TorvictlProgram
+{
+};
+
+TEST_F(TorvictlStatusTest, MissingDirectoryIsAnEmptyContextAndNoError)
+{
+    const Outcome outcome = run({ u"status"_s, u"--json"_s });
+
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.error.toStdString();
+    EXPECT_EQ(outcome.output,
+              R"({"currentContext":{"activeProject":null,"activeAccount":null,)"
+              R"("activeConfiguration":null,"impersonatedServiceAccount":null,)"
+              R"("adcState":{"type":"none","quotaProject":null,"clientEmail":null,)"
+              R"("isValid":false}},"accounts":[],"configurations":[],"lastError":null})"
+              "\n");
+    EXPECT_EQ(outcome.error, "");
+}
+
+TEST_F(TorvictlStatusTest, ShowsTheFilesInOneLineOfJson)
+{
+    writeConfig(u"active_config"_s, "work");
+    writeConfig(u"configurations/config_default"_s, "");
+    writeConfig(u"configurations/config_work"_s,
+                "[core]\naccount = a@x\nproject = größer\n\n[auth]\n"
+                "impersonate_service_account = robot@p\n");
+    writeConfig(u"application_default_credentials.json"_s,
+                R"({"type": "authorized_user", "quota_project_id": "q"})");
+    writeAccounts({ u"b@p.iam.gserviceaccount.com"_s, u"a@x"_s });
+
+    const Outcome outcome = run({ u"status"_s, u"--json"_s });
+
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.output,
+              R"({"currentContext":{"activeProject":{"id":"größer","name":"größer",)"
+              R"("projectNumber":null,"isPinned":false,"lastUsed":null},)"
+              R"("activeAccount":{"email":"a@x","isActive":true,"accountType":"USER"},)"
+              R"("activeConfiguration":{"name":"work","isActive":true,"properties":)"
+              R"({"project":"größer","account":"a@x","region":null,"zone":null,)"
+              R"("impersonateServiceAccount":"robot@p"}},)"
+              R"("impersonatedServiceAccount":{"email":"robot@p","projectId":"größer",)"
+              R"("displayName":null},)"
+              R"("adcState":{"type":"authorized_user","quotaProject":"q","clientEmail":null,)"
+              R"("isValid":true}},)"
+              R"("accounts":[{"email":"a@x","isActive":true,"accountType":"USER"},)"
+              R"({"email":"b@p.iam.gserviceaccount.com","isActive":false,)"
+              R"("accountType":"SERVICE_ACCOUNT"}],)"
+              R"("configurations":[{"name":"default","isActive":false,"properties":)"
+              R"({"project":null,"account":null,"region":null,"zone":null,)"
+              R"("impersonateServiceAccount":null}},)"
+              R"({"name":"work","isActive":true,"properties":)"
+              R"({"project":"größer","account":"a@x","region":null,"zone":null,)"
+              R"("impersonateServiceAccount":"robot@p"}}],"lastError":null})"
+              "\n");
+}
+
+TEST_F(TorvictlStatusTest, NeverRunsGcloud)
+{
+    run({ u"status"_s });
+
+    EXPECT_EQ(gcloudRuns(), "");
+}
+
+TEST_F(TorvictlStatusTest, TextIsTheAlignedRowsWithoutColoursOnAPipe)
+{
+    writeConfig(u"configurations/config_default"_s,
+                "[core]\nproject = p\naccount = a@x\n[auth]\nimpersonate_service_account = s@p\n");
+
+    const Outcome outcome = run({ u"status"_s });
+
+    EXPECT_EQ(outcome.output,
+              "Project        p\nAccount        None\nImpersonating  s@p\nADC            Not "
+              "configured\n");
+}
+
+TEST_F(TorvictlStatusTest, ErrorKeepsWhatWasReadBeforeIt)
+{
+    writeConfig(u"configurations/config_default"_s, "[core]\nproject = p\n");
+    writeConfig(u"credentials.db"_s, "this is no database, but it is long enough to be one......");
+
+    const Outcome outcome = run({ u"status"_s, u"--json"_s });
+
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.output,
+              R"({"currentContext":{"activeProject":null,"activeAccount":null,)"
+              R"("activeConfiguration":null,"impersonatedServiceAccount":null,)"
+              R"("adcState":{"type":"none","quotaProject":null,"clientEmail":null,)"
+              R"("isValid":false}},"accounts":[],"configurations":[{"name":"default",)"
+              R"("isActive":true,"properties":{"project":"p","account":null,"region":null,)"
+              R"("zone":null,"impersonateServiceAccount":null}}],)"
+              R"("lastError":"Failed to parse gcloud output: SQLite prepare failed: )"
+              R"(file is not a database"})"
+              "\n");
+    EXPECT_EQ(outcome.error,
+              "Failed to parse gcloud output: SQLite prepare failed: file is not a database\n");
+}
+
+TEST_F(TorvictlStatusTest, AFifoInAFilesPlaceBlocksNothing)
+{
+    writeConfig(u"configurations/config_default"_s, "");
+    const QByteArray fifo = path(u".config/gcloud/application_default_credentials.json"_s).toUtf8();
+    ASSERT_EQ(mkfifo(fifo.constData(), 0600), 0);
+
+    const Outcome outcome = run({ u"status"_s });
+
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.error, "Could not read config file: " + fifo + '\n');
+}
+
+TEST_F(TorvictlStatusTest, EmptyCloudsdkConfigIsUsedAsItStands)
+{
+    writeConfig(u"configurations/config_default"_s, "[core]\nproject = p\n");
+    environment.insert(u"CLOUDSDK_CONFIG"_s, u""_s);
+
+    const Outcome outcome = run({ u"status"_s });
+
+    EXPECT_TRUE(outcome.output.startsWith("Project  None\n")) << outcome.output.toStdString();
+}
+
+TEST_F(TorvictlStatusTest, PlainCLocaleChangesNothing)
+{
+    writeConfig(u"configurations/config_default"_s, "[core]\nproject = größer\n");
+    environment.insert(u"LC_ALL"_s, u"C"_s);
+
+    const Outcome outcome = run({ u"status"_s });
+
+    EXPECT_TRUE(outcome.output.startsWith("Project  größer\n")) << outcome.output.toStdString();
+    EXPECT_EQ(outcome.error, "");
+}
+
+TEST_F(TorvictlStatusTest, FullDiskIsAnErrorNotASilentLoss)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setStandardOutputFile(u"/dev/full"_s);
+
+    process.start(QStringLiteral(TORVI_TORVICTL), { u"status"_s });
+
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_EQ(process.readAllStandardError(),
+              "Could not write to standard output: No space left on device\n");
+}
+
+} // namespace torvi

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/torvictl/TorvictlProgram.h"
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace torvi {
+
+class TorvictlWatchTest : public TorvictlProgram
+{
+protected:
+    std::unique_ptr<QProcess> watch;
+
+    void SetUp() override
+    {
+        writeConfig(u"configurations/config_default"_s, "[core]\nproject = p1\n");
+        watch = start({ u"watch"_s, u"--json"_s });
+    }
+
+    Outcome endedBy(int signal)
+    {
+        kill(static_cast<pid_t>(watch->processId()), signal);
+        return outcome(*watch);
+    }
+};
+
+TEST_F(TorvictlWatchTest, PrintsTheStatusAtOnceAndAgainAtEachChange)
+{
+    EXPECT_TRUE(nextLine(*watch).contains("\"id\":\"p1\""));
+
+    writeConfig(u"configurations/config_default"_s, "[core]\nproject = p2\n");
+
+    EXPECT_TRUE(nextLine(*watch).contains("\"id\":\"p2\""));
+    endedBy(SIGINT);
+}
+
+TEST_F(TorvictlWatchTest, PrintsAlsoWhenNothingThatItShowsHasChanged)
+{
+    const QByteArray first = nextLine(*watch);
+
+    writeConfig(u"logs/today.log"_s, "a gcloud ran");
+
+    EXPECT_EQ(nextLine(*watch), first);
+    endedBy(SIGINT);
+}
+
+TEST_F(TorvictlWatchTest, AnErrorPassesWithTheNextGoodRead)
+{
+    nextLine(*watch);
+    writeConfig(u"application_default_credentials.json"_s, "{ half");
+    EXPECT_TRUE(nextLine(*watch).contains("\"lastError\":\"Could not read config file: "));
+
+    writeConfig(u"application_default_credentials.json"_s, "{}");
+
+    EXPECT_TRUE(nextLine(*watch).endsWith("\"lastError\":null}"));
+    endedBy(SIGINT);
+}
+
+TEST_F(TorvictlWatchTest, NeverRunsGcloud)
+{
+    nextLine(*watch);
+    writeConfig(u"active_config"_s, "default");
+    nextLine(*watch);
+    endedBy(SIGINT);
+
+    EXPECT_EQ(gcloudRuns(), "");
+}
+
+TEST_F(TorvictlWatchTest, CtrlCExits130)
+{
+    nextLine(*watch);
+
+    EXPECT_EQ(endedBy(SIGINT).exitCode, 130);
+}
+
+TEST_F(TorvictlWatchTest, EndsWithZeroWhenItsReaderGoesAwayAlsoWithoutAChange)
+{
+    QProcess pipeline;
+    pipeline.setProcessEnvironment(environment);
+
+    pipeline.start(u"/bin/sh"_s,
+                   { u"-c"_s, u"{ \"$0\" watch; echo $? >\"$HOME/code\"; } | head -n 1"_s,
+                     QStringLiteral(TORVI_TORVICTL) });
+
+    ASSERT_TRUE(pipeline.waitForFinished(30000));
+    EXPECT_EQ(pipeline.readAllStandardOutput(), "Project  p1\n");
+    EXPECT_EQ(read(u"code"_s), "0\n");
+    endedBy(SIGINT);
+}
+
+TEST_F(TorvictlWatchTest, SeesADirectoryThatIsMadeLater)
+{
+    nextLine(*watch);
+    environment.insert(u"CLOUDSDK_CONFIG"_s, path(u"later/gcloud"_s));
+    const auto early = start({ u"watch"_s, u"--json"_s });
+    EXPECT_TRUE(nextLine(*early).contains("\"activeProject\":null"));
+
+    writeConfig(u"../../later/gcloud/configurations/config_default"_s, "[core]\nproject = new\n");
+
+    while (!nextLine(*early).contains("\"id\":\"new\"")) {
+        ASSERT_FALSE(HasFailure());
+    }
+    kill(static_cast<pid_t>(early->processId()), SIGINT);
+    EXPECT_EQ(outcome(*early).exitCode, 130);
+    endedBy(SIGINT);
+}
+
+} // namespace torvi

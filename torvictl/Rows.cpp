@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "torvictl/Rows.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace torvi {
+
+namespace {
+
+constexpr QStringView kDim = u"\x1b[2m";
+constexpr QStringView kWarning = u"\x1b[33m"; // the terminal's yellow is what comes next to orange
+constexpr QStringView kReset = u"\x1b[0m";
+
+QString adcKind(ADCType type)
+{
+    switch (type) {
+    case ADCType::userCredentials:
+        return u"User credentials"_s;
+    case ADCType::serviceAccountKey:
+        return u"Service account key"_s;
+    case ADCType::impersonatedServiceAccount:
+        return u"Impersonated SA"_s;
+    case ADCType::none:
+        return u"Not configured"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+QString printable(QString text)
+{
+    std::ranges::replace_if(
+        text, [](QChar character) { return character.category() == QChar::Other_Control; },
+        QChar(QChar::ReplacementCharacter));
+    return text;
+}
+
+QString coloured(const QString &text, QStringView colour, Colours colours)
+{
+    return colours == Colours::on && !text.isEmpty() ? colour.toString() + text + kReset.toString()
+                                                     : text;
+}
+
+} // namespace
+
+QList<Row> contextRows(const AuthContext &context)
+{
+    QList<Row> rows{
+        { u"Project"_s, context.activeProject ? context.activeProject->id : u"None"_s },
+        { u"Account"_s, context.activeAccount ? context.activeAccount->email : u"None"_s },
+    };
+    if (context.impersonatedServiceAccount) {
+        rows.append({ u"Impersonating"_s, context.impersonatedServiceAccount->email, true });
+    }
+    rows.append({ u"ADC"_s, adcKind(context.adcState.type) });
+    return rows;
+}
+
+QString aligned(const QList<Row> &rows, Colours colours)
+{
+    qsizetype width = 0;
+    for (const Row &row : rows) {
+        width = std::max(width, row.label.size());
+    }
+    QString lines;
+    for (const Row &row : rows) {
+        const QString label = printable(row.label);
+        lines += coloured(row.value.isEmpty() ? label : label.leftJustified(width + 2),
+                          row.isHighlighted ? kWarning : kDim, colours);
+        lines += row.isHighlighted ? coloured(printable(row.value), kWarning, colours)
+                                   : printable(row.value);
+        lines += u'\n';
+    }
+    return lines;
+}
+
+} // namespace torvi
