@@ -17,6 +17,12 @@ if(TORVI_SANITIZE)
     # One bad value must fail a test, not scroll by: nothing recovers.
     add_compile_options(-fsanitize=${TORVI_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${TORVI_SANITIZE})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        add_compile_options(-fno-sanitize=function) # clang 14 cannot compile coroutines with it
+    endif()
+endif()
+if(TORVI_FUZZERS)
+    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 if(TORVI_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
