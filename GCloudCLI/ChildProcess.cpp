@@ -76,10 +76,10 @@ ChildProcess::ChildProcess(pid_t pid, Leads leads, FileDescriptor output, FileDe
     , m_pidfd(::pidfd_open(pid, 0))
 {
     if (!m_pidfd.isOpen()) {
-        const std::system_error failure(errno, std::generic_category());
+        const int reason = errno;
         kill();
         static_cast<void>(reap());
-        throw failure;
+        throw std::system_error(reason, std::generic_category());
     }
 }
 

@@ -18,12 +18,12 @@ namespace torvi {
 namespace {
 
 /// What execve() takes, pointing into `texts`. Made before the fork: the child must not allocate.
-std::vector<char *> pointers(const std::vector<std::string> &texts)
+std::vector<char *> pointers(std::vector<std::string> &texts)
 {
     std::vector<char *> result;
     result.reserve(texts.size() + 1);
-    for (const std::string &text : texts) {
-        result.push_back(const_cast<char *>(text.c_str())); // execve() does not write to it
+    for (std::string &text : texts) {
+        result.push_back(text.data());
     }
     result.push_back(nullptr);
     return result;
@@ -131,7 +131,7 @@ void ensureExitCodesAreKept()
 
 } // namespace
 
-pid_t forkExec(const ForkExec &order)
+pid_t forkExec(ForkExec order)
 {
     ensureExitCodesAreKept();
     Pipe errorPipe = Pipe::open();

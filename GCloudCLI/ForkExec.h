@@ -23,6 +23,6 @@ struct ForkExec
 
 /// Starts the program and returns once it runs.
 /// Errors: throws std::system_error with the error number of what failed in parent or child.
-[[nodiscard]] pid_t forkExec(const ForkExec &order);
+[[nodiscard]] pid_t forkExec(ForkExec order);
 
 } // namespace torvi

@@ -95,8 +95,7 @@ std::optional<QString> GCloudPathResolver::fromStartUpFiles() const
             continue;
         }
         const auto text = decodeUtf8(*bytes);
-        const auto path
-            = text.has_value() ? gcloudNamedIn(*text, m_places.homeDirectory) : std::nullopt;
+        auto path = text.has_value() ? gcloudNamedIn(*text, m_places.homeDirectory) : std::nullopt;
         if (path.has_value()) {
             return path;
         }
@@ -114,7 +113,7 @@ std::optional<QString> GCloudPathResolver::fromLoginShell(const std::stop_token 
     };
     const LoginShell shell(m_places.shell, m_places.shellTimeLimit);
     for (const QStringList &arguments : tries) {
-        const auto path = stop.stop_requested() ? std::nullopt : shell.answer(arguments, stop);
+        auto path = stop.stop_requested() ? std::nullopt : shell.answer(arguments, stop);
         if (path.has_value() && isExecutable(*path)) {
             return path;
         }

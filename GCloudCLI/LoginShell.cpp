@@ -17,7 +17,7 @@ namespace torvi {
 namespace {
 
 /// Far more than greetings and a path take; a start-up file that prints without end stops here.
-constexpr qsizetype kLongestAnswer = 1024 * 1024;
+constexpr qsizetype kLongestAnswer = qsizetype{ 1024 } * 1024;
 
 /// The whole output of a shell that ends well in time.
 std::optional<QByteArray> outputOf(ChildProcess &shell, Deadline deadline, const StopEvent &stop)

@@ -24,7 +24,7 @@ constexpr std::size_t kExit = 2;
 constexpr std::size_t kStop = 3;
 
 /// What a pipe holds: one read empties it.
-constexpr qsizetype kChunkSize = 64 * 1024;
+constexpr qsizetype kChunkSize = qsizetype{ 64 } * 1024;
 
 pollfd readable(int descriptor)
 {

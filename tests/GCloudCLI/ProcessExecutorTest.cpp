@@ -1,28 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "GCloudCLI/ProcessExecutor.h"
+#include "tests/GCloudCLI/ProcessExecutorFixture.h"
 
-#include "GCloudCLI/BrowserAuthHandler.h"
-#include "GCloudCLI/FileDescriptor.h"
-#include "GCloudCLI/GCloudPathResolver.h"
-#include "GCloudModels/AppError.h"
-#include "tests/support/ScriptFolder.h"
-
-#include <QCoreApplication>
 #include <QScopeGuard>
-#include <qcoro/qcorotask.h>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <condition_variable>
-#include <csignal>
-#include <fcntl.h>
-#include <mutex>
-#include <sys/stat.h>
-#include <thread>
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
@@ -30,28 +13,6 @@ using namespace Qt::StringLiterals;
 namespace torvi {
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-constexpr auto kAddress = "https://accounts.google.com/o/oauth2/auth?response_type=code"
-                          "&redirect_uri=http%3A%2F%2Flocalhost%3A8085%2F&state=aB3";
-
-class FixedPath final : public GCloudPathResolving
-{
-public:
-    explicit FixedPath(QString path)
-        : m_path(std::move(path))
-    {
-    }
-
-    [[nodiscard]] QString resolve(std::stop_token /*stop*/) const override
-    {
-        return m_path;
-    }
-
-private:
-    QString m_path;
-};
 
 class FailingSearch final : public GCloudPathResolving
 {
@@ -70,165 +31,10 @@ private:
     AppError m_error;
 };
 
-/// A search that lasts until it is told the path or is stopped.
-class SlowSearch final : public GCloudPathResolving
-{
-public:
-    void find(const QString &path)
-    {
-        const std::lock_guard guard(m_lock);
-        m_path = path;
-        m_changed.notify_all();
-    }
-
-    [[nodiscard]] QString resolve(std::stop_token stop) const override
-    {
-        std::unique_lock lock(m_lock);
-        if (!m_changed.wait(lock, std::move(stop), [this] { return m_path.has_value(); })) {
-            throw AppError::gcloudNotFound();
-        }
-        return *m_path;
-    }
-
-private:
-    mutable std::mutex m_lock;
-    mutable std::condition_variable_any m_changed;
-    std::optional<QString> m_path;
-};
-
-/// Remembers the addresses; each one is also acknowledged by a line in a FIFO, when there is one,
-/// so that a script can go on as soon as its address has arrived.
-class RecordingHandler final : public BrowserAuthHandler
-{
-public:
-    QStringList addresses;
-    std::thread::id thread;
-    QString fifo;
-
-    void openAuthURL(const QString &url) override
-    {
-        addresses.append(url);
-        thread = std::this_thread::get_id();
-        QFile acknowledgement(fifo);
-        if (!fifo.isEmpty() && acknowledgement.open(QIODevice::WriteOnly)) {
-            acknowledgement.write("seen\n");
-        }
-    }
-};
-
-/// What became of a call whose end nobody waits for at once.
-struct Outcome
-{
-    std::optional<GCloudResult> result;
-    std::optional<AppError> error;
-
-    [[nodiscard]] bool isKnown() const
-    {
-        return result.has_value() || error.has_value();
-    }
-};
-
-QCoro::Task<> record(QCoro::Task<GCloudResult> call, std::shared_ptr<Outcome> outcome)
-{
-    try {
-        outcome->result = co_await call;
-    } catch (const AppError &error) {
-        outcome->error = error;
-    }
-}
-
-std::string readToEnd(int descriptor)
-{
-    std::string text;
-    std::array<char, 4096> chunk{};
-    for (;;) {
-        const ssize_t count = ::read(descriptor, chunk.data(), chunk.size());
-        if (count <= 0) {
-            return text;
-        }
-        text.append(chunk.data(), static_cast<std::size_t>(count));
-    }
-}
-
 } // namespace
 
-/// A script in the place of gcloud, with the folder of the test in $dir and a FIFO in $fifo.
-class ProcessExecutorTest : public testing::Test
+class ProcessExecutorTest : public ProcessExecutorFixture
 {
-protected:
-    ScriptFolder folder;
-    QString gcloud = folder.path(u"gcloud"_s);
-    QString fifo = makeFifo(u"fifo"_s);
-    std::shared_ptr<const GCloudPathResolving> search = std::make_shared<FixedPath>(gcloud);
-    std::shared_ptr<RecordingHandler> handler;
-    std::chrono::milliseconds drain = 100ms;
-    std::unique_ptr<ProcessExecutor> executor;
-
-    [[nodiscard]] QString makeFifo(const QString &name) const
-    {
-        EXPECT_EQ(::mkfifo(QFile::encodeName(folder.path(name)).constData(), 0600), 0);
-        return folder.path(name);
-    }
-
-    void script(const QByteArray &body) const
-    {
-        folder.writeScript(u"gcloud"_s,
-                           "dir='" + folder.path().toUtf8() + "'; fifo=$dir/fifo\n" + body);
-    }
-
-    QCoro::Task<GCloudResult> execute(const GCloudCommand &command = GCloudCommand::version())
-    {
-        if (!executor) {
-            executor = std::make_unique<ProcessExecutor>(search, handler, drain);
-        }
-        return executor->execute(command);
-    }
-
-    std::shared_ptr<Outcome> startRun(const GCloudCommand &command = GCloudCommand::version())
-    {
-        auto outcome = std::make_shared<Outcome>();
-        record(execute(command), outcome);
-        return outcome;
-    }
-
-    // Not QCoro::waitFor(), which waits for ever when the task throws.
-    Outcome runToTheEnd(const GCloudCommand &command)
-    {
-        const auto outcome = startRun(command);
-        settle(*outcome);
-        return *outcome;
-    }
-
-    GCloudResult run(const GCloudCommand &command = GCloudCommand::version())
-    {
-        const Outcome outcome = runToTheEnd(command);
-        EXPECT_FALSE(outcome.error.has_value()) << outcome.error->what();
-        return outcome.result.value_or(GCloudResult());
-    }
-
-    std::optional<AppError> runToError(const GCloudCommand &command = GCloudCommand::version())
-    {
-        return runToTheEnd(command).error;
-    }
-
-    /// Blocks until the script opens the FIFO for writing; what is read from the descriptor ends
-    /// when the script and all its children are gone.
-    [[nodiscard]] FileDescriptor waitForTheScript() const
-    {
-        return FileDescriptor(::open(QFile::encodeName(fifo).constData(), O_RDONLY | O_CLOEXEC));
-    }
-
-    static void settle(const Outcome &outcome)
-    {
-        while (!outcome.isKnown()) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
-    }
-
-    void kill(const QString &pidFile) const
-    {
-        ::kill(folder.read(pidFile).trimmed().toInt(), SIGKILL);
-    }
 };
 
 TEST_F(ProcessExecutorTest, YieldsExitCodeAndBothStreams)
@@ -412,11 +218,11 @@ TEST_F(ProcessExecutorTest, WhatIsPrintedJustBeforeTheExitIsInTheResult)
 TEST_F(ProcessExecutorTest, TheResultComesATenthOfASecondAfterTheExitNotSooner)
 {
     script("");
-    const auto start = Clock::now();
+    const auto start = std::chrono::steady_clock::now();
 
     EXPECT_EQ(run().exitCode, 0);
 
-    EXPECT_GE(Clock::now() - start, 100ms);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 100ms);
 }
 
 TEST_F(ProcessExecutorTest, WhatArrivesWithinTheDrainTimeCounts)
@@ -469,218 +275,6 @@ TEST_F(ProcessExecutorTest, ACallReturnsAtOnceWhileTheSearchLasts)
     settle(*outcome);
 
     EXPECT_EQ(outcome->result, (GCloudResult{ 0, u"found\n"_s, u""_s }));
-}
-
-class SignInTest : public ProcessExecutorTest
-{
-protected:
-    void SetUp() override
-    {
-        handler = std::make_shared<RecordingHandler>();
-    }
-
-    /// A script that prints `chunks` on standard error, each only when the one before it has been
-    /// taken out of the pipe.
-    void scriptPrinting(const QByteArrayList &chunks) const
-    {
-        QByteArray body = "import fcntl, os, sys, termios, time\n"
-                          "def emptied():\n"
-                          "    return fcntl.ioctl(2, termios.FIONREAD, bytes(4)) == bytes(4)\n"
-                          "for name in sys.argv[1:]:\n"
-                          "    os.write(2, open(name, 'rb').read())\n"
-                          "    while not emptied():\n"
-                          "        time.sleep(0.001)\n";
-        folder.write(u"chunks.py"_s, body);
-        QByteArray names;
-        for (const QByteArray &chunk : chunks) {
-            names += " '" + folder.write(u"chunk%1"_s.arg(names.size()), chunk).toUtf8() + "'";
-        }
-        script("exec python3 $dir/chunks.py" + names);
-    }
-};
-
-TEST_F(SignInTest, TheHandlerGetsTheWholeAddressOnce)
-{
-    const QByteArray text
-        = QByteArray("Your browser has been opened to visit:\n\n    ") + kAddress + "\n";
-    for (const GCloudCommand &command :
-         { GCloudCommand::applicationDefaultLogin(),
-           GCloudCommand::adcLoginWithImpersonation(u"a@p.iam.gserviceaccount.com"_s) }) {
-        scriptPrinting({ text });
-        handler->addresses.clear();
-
-        EXPECT_EQ(run(command), (GCloudResult{ 0, u""_s, QString::fromUtf8(text) }));
-
-        EXPECT_EQ(handler->addresses, QStringList(QString::fromLatin1(kAddress)));
-    }
-}
-
-TEST_F(SignInTest, TheHandlerIsCalledOnABackgroundThreadWhileGcloudWaits)
-{
-    handler->fifo = fifo;
-    script(QByteArray("echo '") + kAddress + "' >&2; read line < $fifo; echo $line");
-
-    EXPECT_EQ(run(GCloudCommand::applicationDefaultLogin()).stdout, u"seen\n"_s);
-
-    EXPECT_NE(handler->thread, std::this_thread::get_id());
-}
-
-TEST_F(SignInTest, AnAddressOnStandardOutputIsNone)
-{
-    script(QByteArray("echo '") + kAddress + "'");
-
-    EXPECT_EQ(run(GCloudCommand::applicationDefaultLogin()).exitCode, 0);
-
-    EXPECT_EQ(handler->addresses, QStringList());
-}
-
-TEST_F(SignInTest, AnAddressOfACommandWithoutASignInIsNone)
-{
-    scriptPrinting({ kAddress });
-
-    EXPECT_EQ(run(GCloudCommand::setProject(u"p"_s)).stderr, QString::fromLatin1(kAddress));
-
-    EXPECT_EQ(handler->addresses, QStringList());
-}
-
-TEST_F(SignInTest, WithoutAHandlerALoginYieldsItsResult)
-{
-    handler = nullptr;
-    scriptPrinting({ kAddress });
-
-    EXPECT_EQ(run(GCloudCommand::applicationDefaultLogin()),
-              (GCloudResult{ 0, u""_s, QString::fromLatin1(kAddress) }));
-}
-
-TEST_F(SignInTest, EachChunkWithAnAddressCallsTheHandler)
-{
-    scriptPrinting({ QByteArray(kAddress) + "&1\n", "Waiting\n", QByteArray(kAddress) + "&2\n" });
-
-    EXPECT_EQ(run(GCloudCommand::applicationDefaultLogin()).exitCode, 0);
-
-    EXPECT_EQ(handler->addresses,
-              QStringList({ QString::fromLatin1(kAddress) + u"&1"_s,
-                            QString::fromLatin1(kAddress) + u"&2"_s }));
-}
-
-TEST_F(SignInTest, AnAddressThatIsSplitBetweenTwoChunksIsNotFound)
-{
-    const QByteArray address(kAddress);
-    scriptPrinting({ address.first(20), address.sliced(20) });
-
-    EXPECT_EQ(run(GCloudCommand::applicationDefaultLogin()).stderr, QString::fromLatin1(kAddress));
-
-    EXPECT_EQ(handler->addresses, QStringList());
-}
-
-TEST_F(SignInTest, AChunkThatIsNotUtf8IsSkipped)
-{
-    scriptPrinting({ QByteArray(kAddress) + "&1 \xff\n", QByteArray(kAddress) + "&2\n" });
-
-    EXPECT_EQ(run(GCloudCommand::applicationDefaultLogin()).stderr, u""_s);
-
-    EXPECT_EQ(handler->addresses, QStringList(QString::fromLatin1(kAddress) + u"&2"_s));
-}
-
-/// The executor goes away, or the program is quit, while calls are pending.
-class ProcessExecutorEndTest : public ProcessExecutorTest
-{
-protected:
-    static void expectEnded(const Outcome &outcome)
-    {
-        settle(outcome);
-        EXPECT_FALSE(outcome.result.has_value());
-        EXPECT_EQ(outcome.error,
-                  AppError::unknown(u"gcloud was ended because Torvi is closing."_s));
-    }
-};
-
-TEST_F(ProcessExecutorEndTest, EndsARunningGcloudAndItsChildren)
-{
-    script("exec 9>$fifo; sleep 1000 & sleep 1000");
-    const auto outcome = startRun();
-    const FileDescriptor script = waitForTheScript();
-
-    executor.reset();
-
-    EXPECT_EQ(readToEnd(script.get()), "");
-    expectEnded(*outcome);
-}
-
-TEST_F(ProcessExecutorEndTest, AsksGcloudBeforeItIsKilled)
-{
-    script("exec 9>$fifo; trap 'echo asked >&9; exit' TERM; echo ready >&9; "
-           "while :; do sleep 0.05; done");
-    const auto outcome = startRun();
-    const FileDescriptor script = waitForTheScript();
-    std::array<char, 6> ready{};
-    ASSERT_EQ(::read(script.get(), ready.data(), ready.size()), 6);
-
-    executor.reset();
-
-    EXPECT_EQ(readToEnd(script.get()), "asked\n");
-    expectEnded(*outcome);
-}
-
-TEST_F(ProcessExecutorEndTest, KillsWhatDoesNotListenSideBySide)
-{
-    script("trap '' TERM; exec 9>$fifo; sleep 1000");
-    const auto first = startRun();
-    const auto second = startRun();
-    const FileDescriptor script = waitForTheScript();
-
-    executor.reset();
-
-    EXPECT_EQ(readToEnd(script.get()), "");
-    expectEnded(*first);
-    expectEnded(*second);
-}
-
-TEST_F(ProcessExecutorEndTest, EndsALoginShellOfARunningSearch)
-{
-    const QString shell
-        = folder.writeScript(u"shell"_s, "exec 9>'" + fifo.toUtf8() + "'; sleep 1000 & sleep 1000");
-    search = std::make_shared<GCloudPathResolver>(std::nullopt,
-                                                  SearchPlaces{ .homeDirectory = folder.path(),
-                                                                .wellKnown = {},
-                                                                .startUpFiles = {},
-                                                                .shell = shell,
-                                                                .shellTimeLimit = 1h });
-    const auto outcome = startRun();
-    const FileDescriptor script = waitForTheScript();
-
-    executor.reset();
-
-    EXPECT_EQ(readToEnd(script.get()), "");
-    expectEnded(*outcome);
-}
-
-TEST_F(ProcessExecutorEndTest, StopsASearch)
-{
-    search = std::make_shared<SlowSearch>();
-    const auto outcome = startRun();
-
-    executor.reset();
-
-    expectEnded(*outcome);
-}
-
-TEST_F(ProcessExecutorEndTest, ARunThatHasEndedKeepsItsResult)
-{
-    script("echo done");
-    const auto outcome = startRun();
-    settle(*outcome);
-
-    executor.reset();
-
-    EXPECT_EQ(outcome->result, (GCloudResult{ 0, u"done\n"_s, u""_s }));
-}
-
-TEST_F(ProcessExecutorEndTest, WithoutRunsNothingHappens)
-{
-    executor = std::make_unique<ProcessExecutor>(search);
-
-    executor.reset();
 }
 
 } // namespace torvi
