@@ -3,6 +3,10 @@
 
 #include "tests/gcloud/GCloudTest.h"
 
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 namespace torvi {
@@ -14,6 +18,16 @@ protected:
     void let(const QString &behaviour)
     {
         environment.insert(u"TORVI_TEST_BROWSER"_s, behaviour);
+    }
+
+    /// A shell script that is found before all others of its name.
+    void haveProgram(const QString &name, const QByteArray &script)
+    {
+        const QString folder = scratch.filePath(u"bin"_s);
+        QDir().mkpath(folder);
+        writeFile(folder + u'/' + name, "#!/bin/sh\n" + script + '\n');
+        QFile::setPermissions(folder + u'/' + name, QFile::ReadOwner | QFile::ExeOwner);
+        environment.insert(u"PATH"_s, folder + u':' + environment.value(u"PATH"_s));
     }
 };
 
@@ -47,7 +61,7 @@ TEST_F(GCloudADCLoginTest, ShowsOneAddressUnderWhichTheUserCanSignInElsewhere)
     const auto running = startTorvictl({ u"adc-login"_s });
     QString address;
     ASSERT_TRUE(running->waitForErrors([&](const QByteArray &errors) {
-        address = signInAddress(errors);
+        address = signInAddresses(errors).value(0);
         return !address.isEmpty();
     }));
 
@@ -60,6 +74,27 @@ TEST_F(GCloudADCLoginTest, ShowsOneAddressUnderWhichTheUserCanSignInElsewhere)
     EXPECT_EQ(ended.errors.count("https://accounts.google.com/"), 1) << ended.errors.toStdString();
     EXPECT_TRUE(address.endsWith(u"&code_challenge_method=S256"_s)) << address.toStdString();
     EXPECT_TRUE(adcFile().has_value());
+}
+
+TEST_F(GCloudADCLoginTest, ShowsAnAddressThatWorksWhereNoBrowserIsFound)
+{
+    // The desktop's opener repeats the address in quotes, before or after gcloud's own text; with
+    // the closing quote it is one that Google refuses.
+    haveProgram(u"xdg-open"_s,
+                "echo \"xdg-open: no method available for opening '$1'\" >&2; exit 3");
+    const QString browser = environment.value(u"BROWSER"_s);
+    environment.remove(u"BROWSER"_s);
+    const auto running = startTorvictl({ u"adc-login"_s });
+    QStringList whole;
+    ASSERT_TRUE(running->waitForErrors([&](const QByteArray &errors) {
+        whole = signInAddresses(errors).filter(QRegularExpression(u"method=S256$"_s));
+        return !whole.isEmpty();
+    }));
+
+    const Ended signedIn = Program::run(browser, { whole.constFirst() }, environment);
+
+    EXPECT_TRUE(exitedWith(0, signedIn));
+    EXPECT_TRUE(exitedWith(0, running->waitForEnd()));
 }
 
 TEST_F(GCloudADCLoginTest, ReplacesCredentialsOfAnyKind)

@@ -19,7 +19,7 @@ protected:
         environment.insert(u"TORVI_TEST_BROWSER"_s, u"ignore"_s);
         auto running = startTorvictl({ u"adc-login"_s });
         EXPECT_TRUE(running->waitForErrors(
-            [](const QByteArray &errors) { return !signInAddress(errors).isEmpty(); }));
+            [](const QByteArray &errors) { return !signInAddresses(errors).isEmpty(); }));
         return running;
     }
 

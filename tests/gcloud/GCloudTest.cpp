@@ -178,10 +178,14 @@ QByteArray GCloudTest::readFile(const QString &path)
     return file.readAll();
 }
 
-QString signInAddress(const QByteArray &text)
+QStringList signInAddresses(const QByteArray &text)
 {
     static const QRegularExpression address(u"https://accounts\\.google\\.com/o/oauth2/auth\\S*"_s);
-    return address.match(QString::fromUtf8(text)).captured();
+    QStringList addresses;
+    for (const QRegularExpressionMatch &match : address.globalMatch(QString::fromUtf8(text))) {
+        addresses.append(match.captured());
+    }
+    return addresses;
 }
 
 } // namespace torvi

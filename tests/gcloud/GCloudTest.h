@@ -60,7 +60,7 @@ protected:
     std::unique_ptr<StandIn> google;
 };
 
-/// The sign-in address in what torvictl or gcloud wrote; empty when there is none.
-[[nodiscard]] QString signInAddress(const QByteArray &text);
+/// The sign-in addresses in what torvictl or gcloud wrote.
+[[nodiscard]] QStringList signInAddresses(const QByteArray &text);
 
 } // namespace torvi

@@ -31,7 +31,7 @@ TEST_F(GCloudImpersonationTest, IsForADCOnlyUnlessAskedOtherwise)
 
     ASSERT_TRUE(exitedWith(0, ended));
     EXPECT_EQ(ended.output, "");
-    EXPECT_FALSE(signInAddress(ended.errors).isEmpty()) << ended.errors.toStdString();
+    EXPECT_EQ(signInAddresses(ended.errors).size(), 1) << ended.errors.toStdString();
     const auto file = adcFile();
     ASSERT_TRUE(file.has_value());
     EXPECT_EQ((*file)[u"type"], u"impersonated_service_account"_s);
@@ -73,7 +73,7 @@ TEST_F(GCloudImpersonationTest, ForBothStopsBeforeTheSignInWhenTheFirstStepFails
     ASSERT_TRUE(exitedWith(1, ended));
     EXPECT_TRUE(ended.errors.contains("ERROR: gcloud failed to load"))
         << ended.errors.toStdString();
-    EXPECT_EQ(signInAddress(ended.errors), QString());
+    EXPECT_EQ(signInAddresses(ended.errors), QStringList());
     EXPECT_EQ(google->requests(), QStringList());
 }
 
