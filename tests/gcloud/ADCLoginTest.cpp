@@ -3,8 +3,6 @@
 
 #include "tests/gcloud/GCloudTest.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -18,16 +16,6 @@ protected:
     void let(const QString &behaviour)
     {
         environment.insert(u"TORVI_TEST_BROWSER"_s, behaviour);
-    }
-
-    /// A shell script that is found before all others of its name.
-    void haveProgram(const QString &name, const QByteArray &script)
-    {
-        const QString folder = scratch.filePath(u"bin"_s);
-        QDir().mkpath(folder);
-        writeFile(folder + u'/' + name, "#!/bin/sh\n" + script + '\n');
-        QFile::setPermissions(folder + u'/' + name, QFile::ReadOwner | QFile::ExeOwner);
-        environment.insert(u"PATH"_s, folder + u':' + environment.value(u"PATH"_s));
     }
 };
 

@@ -32,6 +32,17 @@ QJsonDocument decoded(const Ended &ended)
     return document;
 }
 
+/// The real gcloud, if the environment is still that of the test in `home`.
+QByteArray guardedGCloud(const QString &home)
+{
+    return uR"(case "$HOME:$CLOUDSDK_CONFIG:$HTTPS_PROXY:$REQUESTS_CA_BUNDLE" in
+"%1:%1/"*:http://127.0.0.1:*:/*) exec "%2" "$@" ;;
+esac
+echo "gcloud was started without the environment of the test" >&2
+exit 70)"_s.arg(home, QStandardPaths::findExecutable(u"gcloud"_s))
+        .toUtf8();
+}
+
 } // namespace
 
 void GCloudTest::SetUp()
@@ -49,9 +60,10 @@ void GCloudTest::SetUp()
     environment = scratchEnvironment(scratch.path());
     google->enter(environment, signedIn.file(u"authority.pem"_s));
     signInAs(environment, u"dana@example.com"_s);
-    const QString path = QStandardPaths::findExecutable(u"gcloud"_s);
+    environment.insert(u"PATH"_s, scratch.filePath(u"bin"_s) + u':' + environment.value(u"PATH"_s));
+    gcloudPath = haveProgram(u"gcloud"_s, guardedGCloud(scratch.path()));
     ASSERT_TRUE(
-        exitedWith(0, torvictl({ u"settings"_s, u"set"_s, u"gcloudPathOverride"_s, path })));
+        exitedWith(0, torvictl({ u"settings"_s, u"set"_s, u"gcloudPathOverride"_s, gcloudPath })));
 }
 
 void GCloudTest::TearDown()
@@ -75,7 +87,7 @@ std::unique_ptr<Program> GCloudTest::startTorvictl(const QStringList &arguments)
 
 Ended GCloudTest::gcloud(const QStringList &arguments)
 {
-    return Program::run(u"gcloud"_s, arguments, environment);
+    return Program::run(gcloudPath, arguments, environment);
 }
 
 QJsonObject GCloudTest::status()
@@ -157,6 +169,15 @@ int GCloudTest::runsOfGCloud()
         ++runs;
     }
     return runs;
+}
+
+QString GCloudTest::haveProgram(const QString &name, const QByteArray &script)
+{
+    const QString path = scratch.filePath(u"bin/"_s) + name;
+    QDir(scratch.path()).mkpath(u"bin"_s);
+    writeFile(path, "#!/bin/sh\n" + script + '\n');
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
+    return path;
 }
 
 QString GCloudTest::configFile(const QString &name) const

@@ -15,6 +15,10 @@ namespace torvi {
 /// torvictl and the real gcloud on one configuration directory, a copy of SignedInDirectory's, with
 /// the stand-in for the internet. Skips where gcloud, python3 or openssl is missing. After each
 /// test no gcloud may be left behind, and nobody may have asked for what the stand-in lacks.
+///
+/// gcloud is a script in scratch/bin, first in the search path, that runs the real one on nothing
+/// but the scratch directory: a torvictl that loses the environment on the way must not reach the
+/// user's own accounts.
 class GCloudTest : public testing::Test
 {
 protected:
@@ -51,11 +55,15 @@ protected:
     /// How often gcloud was run on the directory so far: each run leaves a log file.
     int runsOfGCloud();
 
+    /// A shell script in scratch/bin; yields its path.
+    QString haveProgram(const QString &name, const QByteArray &script);
+
     QString configFile(const QString &name) const;
     void writeFile(const QString &path, const QByteArray &contents);
     QByteArray readFile(const QString &path);
 
     QTemporaryDir scratch;
+    QString gcloudPath;
     QProcessEnvironment environment;
     std::unique_ptr<StandIn> google;
 };
