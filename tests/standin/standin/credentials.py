@@ -1,0 +1,93 @@
+# SPDX-FileCopyrightText: 2026 The Torvi developers
+# SPDX-License-Identifier: MIT
+"""Who a command runs as: the account in force, its tokens, impersonation."""
+
+import json
+
+from .errors import LOG_IN_AGAIN, ImpersonationDenied, NoCredentials
+
+_SERVICE_ACCOUNT_SUFFIX = ".gserviceaccount.com"
+
+
+def is_service_account(account):
+    return account.endswith(_SERVICE_ACCOUNT_SUFFIX)
+
+
+def active_account(session):
+    """Returns core/account, or raises NoCredentials when nobody is signed in."""
+    account = session.property("core", "account")
+    if not account:
+        raise NoCredentials(
+            f"You do not currently have an active account selected.\n{LOG_IN_AGAIN}"
+        )
+    return account
+
+
+def load(session, account):
+    """Returns the account's stored credentials, or raises NoCredentials."""
+    session.configuration_store().remember("cred_token_store_formatted")
+    stored = session.credentials.load(account)
+    session.tokens.has_valid(account)  # gcloud opens both files before it looks at either.
+    if stored is None:
+        raise NoCredentials(
+            f"Your current active account [{account}] does not have any valid credentials\n"
+            "Please run:\n\n  $ gcloud auth login\n\nto obtain new credentials.\n\n"
+            "For service account, please activate it first:\n\n"
+            "  $ gcloud auth activate-service-account ACCOUNT"
+        )
+    return json.loads(stored)
+
+
+def identity(session):
+    """Returns who the API sees: the impersonated account if one is configured, else the account.
+
+    Gets the tokens that this needs, and warns when it impersonates.
+    """
+    account = active_account(session)
+    service_account = session.property("auth", "impersonate_service_account")
+    if service_account:
+        # gcloud builds the credentials twice, and warns and asks each time.
+        for _ in range(2):
+            _impersonate(session, account, service_account)
+        return service_account
+    credentials = load(session, account)
+    session.configuration_store().remember("client_arch")
+    if not session.tokens.has_valid(account):
+        refresh(session, account, credentials)
+    return account
+
+
+def refresh(session, account, credentials):
+    """Gets a new access token for the account's own credentials and caches it."""
+    if is_service_account(account):
+        session.api.refresh(account, "urn:ietf:params:oauth:grant-type:jwt-bearer")
+    else:
+        owner = session.world.user_of_token(credentials.get("refresh_token", ""))
+        session.api.refresh(owner)
+    session.tokens.store(account, f"stand-in-token-{account}")
+
+
+def acting_as(session):
+    """Returns the sentence that ends the API's refusals."""
+    account = session.property("core", "account") or ""
+    return (
+        f"This command is authenticated as {account} which is the active account "
+        "specified by the [core/account] property"
+    )
+
+
+def _impersonate(session, account, service_account):
+    session.warn(
+        "This command is using service account impersonation. "
+        f"All API calls will be executed as [{service_account}]."
+    )
+    credentials = load(session, account)
+    refresh(session, account, credentials)
+    if not session.api.impersonate(account, service_account):
+        raise ImpersonationDenied(
+            f"PERMISSION_DENIED: Failed to impersonate [{service_account}]. Make sure the account "
+            "that's trying to impersonate it has access to the service account itself and the "
+            '"roles/iam.serviceAccountTokenCreator" role. Permission '
+            "'iam.serviceAccounts.getAccessToken' denied on resource (or it may not exist). "
+            f"{acting_as(session)}. Impersonation is used to impersonate {service_account}. "
+        )
