@@ -30,7 +30,7 @@ class SignInTest(unittest.TestCase):
         return process
 
     def start_by_hand(self, **environment):
-        return self.start(TORVI_STANDIN_SIGN_IN="by-hand", **environment)
+        return self.start(TORVI_STANDIN_HEADLESS="1", **environment)
 
     def credentials(self):
         path = os.path.join(self.scratch.config, "application_default_credentials.json")
@@ -140,7 +140,7 @@ class SignInTest(unittest.TestCase):
         run(command, self.scratch.environment())
         process = Run(
             [*LOGIN[:-1], "--impersonate-service-account=", "--quiet"],
-            self.scratch.environment(TORVI_STANDIN_SIGN_IN="by-hand"),
+            self.scratch.environment(TORVI_STANDIN_HEADLESS="1"),
         )
         self.addCleanup(process.kill)
         visit(process.address(), code="4/any")

@@ -17,7 +17,7 @@ _SCOPES = "+".join(
         "https://www.googleapis.com/auth/sqlservice.login",
     )
 )
-_DISPLAY_VARIABLES = ("DISPLAY", "WAYLAND_DISPLAY", "MIR_SOCKET")
+_DISPLAY_VARIABLES = ("DISPLAY", "WAYLAND_DISPLAY", "MIR_SOCKET", "TORVI_STANDIN_HEADLESS")
 _HINT = "There was a problem with web authentication. Try running again with --no-browser."
 _UNREACHABLE = (
     "Could not reach the login server. A potential cause of this could be because you are behind a "
@@ -47,12 +47,8 @@ def client():
     return {"client_id": _CLIENT_ID, "client_secret": "d-STANDINSECRETxxxxxxxx"}
 
 
-def _is_by_hand(environ):
-    return environ.get("TORVI_STANDIN_SIGN_IN") == "by-hand"
-
-
 def _may_use_browser(environ):
-    return _is_by_hand(environ) or any(environ.get(name) for name in _DISPLAY_VARIABLES)
+    return any(environ.get(name) for name in _DISPLAY_VARIABLES)
 
 
 def _address(redirect, state, more=""):
@@ -109,8 +105,6 @@ def _open_browser(environ, address):
     The fallback that a desktop offers is only used when TORVI_STANDIN_OPENER names one, so that no
     test and no demonstration ever opens a real browser. It is not waited for.
     """
-    if _is_by_hand(environ):
-        return
     import shlex
     import shutil
     import subprocess
