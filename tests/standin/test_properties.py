@@ -78,14 +78,35 @@ class PropertiesTest(unittest.TestCase):
         self.write("labs\n", "active_config")
         self.assertEqual(self.properties(), {})
 
-    def test_an_impossible_name_in_active_config_means_default(self):
-        self.write("Bad Name", "active_config")
+    def test_an_empty_active_config_means_default(self):
+        self.write("", "active_config")
         self.assertEqual(self.properties()["core"]["project"], "one")
+        self.assertEqual(self.read("active_config"), "")
 
-    def test_a_missing_active_config_is_made_again(self):
-        os.remove(self.path("active_config"))
-        self.assertEqual(self.properties()["core"]["project"], "one")
+    def test_an_impossible_name_in_active_config_erases_the_default_configuration(self):
+        self.write("Bad Name", "active_config")
+        self.assertEqual(self.properties(), {})
         self.assertEqual(self.read("active_config"), "default")
+        self.assertEqual(self.read("configurations", "config_default"), "")
+
+    def test_a_missing_active_config_erases_the_default_configuration(self):
+        os.remove(self.path("active_config"))
+        self.assertEqual(self.properties(), {})
+        self.assertEqual(self.read("active_config"), "default")
+
+    def test_nothing_is_erased_when_active_config_is_not_asked(self):
+        os.remove(self.path("active_config"))
+        self.properties("--configuration=labs")
+        self.properties(CLOUDSDK_ACTIVE_CONFIG_NAME="labs")
+        self.assertFalse(os.path.exists(self.path("active_config")))
+        self.assertIn("one", self.read("configurations", "config_default"))
+
+    def test_what_is_no_text_stops_every_command(self):
+        with open(self.path("active_config"), "wb") as file:
+            file.write(b"\xff")
+        done = self.run_gcloud("version", "--format=json")
+        self.assertEqual(done.exit, 1)
+        self.assertIn("'utf-8' codec can't decode byte 0xff", done.stderr)
 
     def test_a_missing_directory_is_made(self):
         elsewhere = os.path.join(self.scratch.path, "a", "b")

@@ -5,9 +5,7 @@
 import json
 import os
 
-from .api import MANAGER_HOST
-from .credentials import acting_as
-from .errors import Crash, GcloudError, HttpFailure, refresh_error
+from .errors import Crash, refresh_error
 from .files import read_text, rewrite_private
 
 USER = "authorized_user"
@@ -104,55 +102,11 @@ def warn_of_other_quota_project(session, project):
     )
 
 
-def may_bill(session, content, project):
-    """Asks, as the credentials' own user, whether the project may be the quota project."""
-    import hashlib  # Only here: most commands never need it.
-
-    token = content["refresh_token"]
-    user = session.world.user_of_token(token)
-    key = hashlib.sha256(token.encode()).hexdigest()
-    session.configuration_store().remember("cred_token_store_formatted", "client_arch")
-    if not session.tokens.has_valid(key):
-        session.api.refresh(user)
-        session.tokens.store(key, f"stand-in-token-{user}")
-    return ask_permission(session, user, project)
-
-
-def ask_permission(session, user, project):
-    """Returns True when the user may use the project's quota. Raises when it is not visible."""
-    name = project.replace(" ", "%20")
-    url = f"/v1/projects/{name}:testIamPermissions?alt=json"
-
-    def answer():
-        found = session.world.project(project, user)
-        if found is None:
-            raise HttpFailure(403, url, "The caller does not have permission")
-        return session.world.may_bill(found, user)
-
-    try:
-        return session.api.call("POST", MANAGER_HOST, url, user, answer)
-    except HttpFailure as failure:
-        account = session.property("core", "account") or ""
-        raise GcloudError(
-            f"[{account}] does not have permission to access projects instance "
-            f"[{name}:testIamPermissions] (or it may not exist): {failure.body}. "
-            f"{acting_as(session)}"
-        ) from failure
-
-
 def announce_saved(session):
     session.err(f"\nCredentials saved to file: [{path(session)}]\n")
     session.err(
         "\nThese credentials will be used by any library that requests "
         "Application Default Credentials (ADC).\n"
-    )
-
-
-def announce_quota_project(session, project):
-    session.err(
-        f'\nQuota project "{project}" was added to ADC which can be used by Google client '
-        "libraries for billing and quota. Note that some services may still bill the project "
-        "owning the resource.\n"
     )
 
 

@@ -2,84 +2,10 @@
 # SPDX-License-Identifier: MIT
 """The command lines that the stand-in understands, and what gcloud says of all others."""
 
-from .commands import config, defaults, identity, lists, named
+from .catalogue import COMMANDS, shown
 from .errors import UsageError
 
 _ANYWHERE = {"--quiet": False, "-q": False, "--format": True}
-
-
-class Command:
-    """One command. positionals: their names; a name in the plural takes all that are left.
-
-    flags: those that it knows besides the ones allowed anywhere; each takes a value.
-    """
-
-    def __init__(self, words, run, positionals=(), flags=(), usage=""):
-        self.words = words
-        self.run = run
-        self.positionals = positionals
-        self.flags = flags
-        self.usage = usage
-
-    @property
-    def name(self):
-        return "gcloud." + self.words.replace(" ", ".")
-
-    @property
-    def synopsis(self):
-        """Returns the line that gcloud prints after a wrong use."""
-        names = "".join(f" {_shown(name)}" for name in self.positionals)
-        return (
-            f"Usage: gcloud {self.words}{names} [optional flags]\n"
-            f"  optional flags may be  {self.usage}"
-        )
-
-
-COMMANDS = [
-    Command(
-        "config set",
-        config.set_property,
-        ("SECTION/PROPERTY", "VALUE"),
-        usage="--help | --installation",
-    ),
-    Command(
-        "config unset",
-        config.unset_property,
-        ("SECTION/PROPERTY",),
-        usage="--help | --installation",
-    ),
-    Command("config list", config.list_properties, flags=("--configuration",)),
-    Command(
-        "config configurations activate", named.activate, ("CONFIGURATION_NAME",), usage="--help"
-    ),
-    Command(
-        "config configurations create",
-        named.create,
-        ("CONFIGURATION_NAME",),
-        usage="--activate | --help",
-    ),
-    Command(
-        "config configurations delete", named.delete, ("CONFIGURATION_NAMES",), usage="--help"
-    ),
-    Command("config configurations list", named.list_all),
-    Command("iam service-accounts list", lists.service_accounts, flags=("--project",)),
-    Command("projects list", lists.projects, flags=("--sort-by",)),
-    Command("auth list", lists.accounts),
-    Command("auth print-identity-token", identity.print_identity_token),
-    Command(
-        "auth application-default login",
-        defaults.login,
-        flags=("--impersonate-service-account",),
-    ),
-    Command(
-        "auth application-default set-quota-project",
-        defaults.set_quota_project,
-        ("QUOTA_PROJECT_ID",),
-        usage="--help",
-    ),
-    Command("auth application-default revoke", defaults.revoke),
-    Command("version", lists.version),
-]
 
 
 def find(argv):
@@ -101,7 +27,7 @@ def parse(command, argv):
     for name in command.positionals:
         if not positionals:
             raise UsageError(
-                command.name, f"argument {_shown(name)}: Must be specified.\n{_advice(command)}"
+                command.name, f"argument {shown(name)}: Must be specified.\n{_advice(command)}"
             )
         if name.endswith("S"):
             values[name], positionals = positionals, []
@@ -110,10 +36,6 @@ def parse(command, argv):
     if positionals:
         raise _unrecognized(command, positionals)
     return values
-
-
-def _shown(name):
-    return f"{name} [{name} ...]" if name.endswith("S") else name
 
 
 def _advice(command):

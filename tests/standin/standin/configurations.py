@@ -5,7 +5,7 @@
 import os
 import re
 
-from .errors import GcloudError
+from .errors import GcloudError, LoadFailure
 from .files import read_text, rewrite
 from .properties import PropertyFile
 
@@ -25,12 +25,16 @@ class Configurations:
         self._faults = faults
 
     def prepare(self):
-        """Creates what is missing, as any command of gcloud does when it starts."""
-        if os.path.exists(self._active_path()):
+        """Makes "default" active where nothing is, as any command of gcloud does when it starts.
+
+        A configuration of that name loses all its properties. This happens too when the file says
+        something impossible, but not when it is empty, and never when the environment decides.
+        """
+        name = self._text()
+        if self._override or (name is not None and _is_possible(name)):
             return
         os.makedirs(os.path.join(self._directory, "configurations"), exist_ok=True)
-        with open(self.path("default"), "a", encoding="utf-8"):
-            pass
+        rewrite(self.path("default"), "")
         rewrite(self._active_path(), "default")
 
     def active(self):
@@ -39,8 +43,7 @@ class Configurations:
 
     def active_in_file(self):
         """Returns what the file says. A line feed at its end is part of the name."""
-        name = read_text(self._active_path()) or ""
-        return name if name == NONE or _VALID_NAME.match(name) else "default"
+        return self._text() or "default"
 
     def names(self):
         """Returns the names of all configurations, sorted."""
@@ -100,5 +103,15 @@ class Configurations:
         """Rewrites the empty file by which other tools of the SDK notice a change."""
         rewrite(os.path.join(self._directory, "config_sentinel"), "")
 
+    def _text(self):
+        try:
+            return read_text(self._active_path())
+        except UnicodeDecodeError as error:
+            raise LoadFailure(str(error)) from error
+
     def _active_path(self):
         return os.path.join(self._directory, "active_config")
+
+
+def _is_possible(name):
+    return name in ("", NONE) or _VALID_NAME.match(name) is not None

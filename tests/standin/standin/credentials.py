@@ -44,17 +44,28 @@ def identity(session):
     Gets the tokens that this needs, and warns when it impersonates.
     """
     account = active_account(session)
-    service_account = session.property("auth", "impersonate_service_account")
+    service_account = impersonated(session)
     if service_account:
-        # gcloud builds the credentials twice, and warns and asks each time.
-        for _ in range(2):
-            _impersonate(session, account, service_account)
+        impersonate(
+            session,
+            service_account,
+            account,
+            lambda: refresh(session, account, load(session, account)),
+        )
         return service_account
     credentials = load(session, account)
     session.configuration_store().remember("client_arch")
     if not session.tokens.has_valid(account):
         refresh(session, account, credentials)
     return account
+
+
+def open_stores(session):
+    """Opens the databases as gcloud does when it only wants to know which accounts there are."""
+    accounts = session.credentials.accounts()
+    session.configuration_store().remember("cred_token_store_formatted")
+    session.tokens.has_valid("")
+    return accounts
 
 
 def refresh(session, account, credentials):
@@ -67,27 +78,45 @@ def refresh(session, account, credentials):
     session.tokens.store(account, f"stand-in-token-{account}")
 
 
+def caller(session):
+    """Returns whom gcloud names as the one who was refused something."""
+    return impersonated(session) or session.property("core", "account")
+
+
+def impersonated(session):
+    """Returns the service account that the configuration names, or None."""
+    return session.property("auth", "impersonate_service_account") or None
+
+
 def acting_as(session):
-    """Returns the sentence that ends the API's refusals."""
-    account = session.property("core", "account") or ""
-    return (
-        f"This command is authenticated as {account} which is the active account "
-        "specified by the [core/account] property"
+    """Returns the sentences that end the API's refusals, without the last full stop."""
+    text = (
+        f"This command is authenticated as {session.property('core', 'account')} which is the "
+        "active account specified by the [core/account] property"
     )
+    service_account = impersonated(session)
+    if service_account:
+        text += f". Impersonation is used to impersonate {service_account}"
+    return text
 
 
-def _impersonate(session, account, service_account):
-    session.warn(
-        "This command is using service account impersonation. "
-        f"All API calls will be executed as [{service_account}]."
-    )
-    credentials = load(session, account)
-    refresh(session, account, credentials)
-    if not session.api.impersonate(account, service_account):
-        raise ImpersonationDenied(
-            f"PERMISSION_DENIED: Failed to impersonate [{service_account}]. Make sure the account "
-            "that's trying to impersonate it has access to the service account itself and the "
-            '"roles/iam.serviceAccountTokenCreator" role. Permission '
-            "'iam.serviceAccounts.getAccessToken' denied on resource (or it may not exist). "
-            f"{acting_as(session)}. Impersonation is used to impersonate {service_account}. "
+def impersonate(session, service_account, user, get_token, acting=None):
+    """Gets tokens with which `user` acts as the service account.
+
+    get_token: gets the user's own token. acting: the sentences of acting_as(), if other ones.
+    gcloud builds such credentials twice, and warns and asks each time.
+    """
+    for _ in range(2):
+        session.warn(
+            "This command is using service account impersonation. "
+            f"All API calls will be executed as [{service_account}]."
         )
+        get_token()
+        if not session.api.impersonate(user, service_account):
+            raise ImpersonationDenied(
+                f"PERMISSION_DENIED: Failed to impersonate [{service_account}]. Make sure the "
+                "account that's trying to impersonate it has access to the service account itself "
+                'and the "roles/iam.serviceAccountTokenCreator" role. Permission '
+                "'iam.serviceAccounts.getAccessToken' denied on resource (or it may not exist). "
+                f"{acting or acting_as(session)}. "
+            )

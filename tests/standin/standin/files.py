@@ -30,7 +30,7 @@ def rewrite_private(path, text, faults=None):
 def read_text(path):
     """Returns the file's text, or None when there is no such file."""
     try:
-        with open(path, encoding="utf-8", errors="surrogateescape", newline="") as file:
+        with open(path, encoding="utf-8", newline="") as file:
             return file.read()
     except FileNotFoundError:
         return None

@@ -3,10 +3,12 @@
 """One run of the stand-in, from the command line to the exit code."""
 
 import os
+import re
 import signal
 import time
 
 from . import arguments
+from .catalogue import COMMANDS
 from .errors import FEEDBACK, Crash, GcloudError, HttpFailure, LoadFailure, UsageError
 from .files import rewrite
 from .log import Log
@@ -29,8 +31,9 @@ def main(argv):
 
 
 def _run(session, command, argv):
-    session.configurations.prepare()
     try:
+        if not any(re.match("--configuration=.", word) for word in argv):
+            session.configurations.prepare()
         session.property("core", "account")
     except LoadFailure as failure:
         return _fail_to_load(session, str(failure))
@@ -73,7 +76,7 @@ def _play(session, command, argv):
 
 def _not_played(argv):
     asked = " ".join(argv) or "nothing"
-    played = "\n  ".join(command.words for command in arguments.COMMANDS)
+    played = "\n  ".join(command.words for command in COMMANDS)
     return f"The stand-in was asked for {asked!r}; it plays only:\n  {played}"
 
 

@@ -3,6 +3,7 @@
 """gcloud's properties: the files, the environment that overrides them, the known names."""
 
 import configparser
+import functools
 import io
 import json
 import os
@@ -20,20 +21,24 @@ _HIDDEN = {
 }
 
 
+@functools.cache
 def known_properties():
     """Returns the sections and their properties, in the order in which gcloud lists them."""
     with open(_KNOWN_NAMES, encoding="utf-8") as file:
         return json.load(file)
 
 
+def is_known(section, key):
+    return key in known_properties().get(section, ()) or (section, key) in _HIDDEN
+
+
 def split_name(name):
     """Returns (section, property) of "section/property" or of a core property's bare name."""
     section, slash, key = name.rpartition("/")
     section = section if slash else "core"
-    known = known_properties()
-    if section not in known and section not in {hidden for hidden, _ in _HIDDEN}:
+    if section not in known_properties() and section not in {hidden for hidden, _ in _HIDDEN}:
         raise GcloudError(f'Section "{section}" does not exist.')
-    if key not in known.get(section, ()) and (section, key) not in _HIDDEN:
+    if not is_known(section, key):
         raise GcloudError(f"Section [{section}] has no property [{key}].")
     return section, key
 
@@ -70,7 +75,7 @@ class PropertyFile:
                 for section in self._parser.sections()
                 for key, value in self._parser.items(section)
             }
-        except configparser.Error as error:
+        except (configparser.Error, UnicodeDecodeError) as error:
             raise LoadFailure(str(error)) from error
 
     def values(self):

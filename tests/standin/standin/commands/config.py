@@ -8,7 +8,7 @@ import re
 from .. import adc, credentials
 from ..api import MANAGER_HOST
 from ..errors import GcloudError, HttpFailure, ImpersonationDenied, NoCredentials
-from ..properties import split_name, variable
+from ..properties import is_known, split_name, variable
 
 _PROJECT_ID = re.compile(r"(?:[-a-z0-9.]+:)?[a-z0-9](?:[-a-z0-9]{0,61}[a-z0-9])?")
 # What makes gcloud take an impossible id for a project's display name.
@@ -22,9 +22,11 @@ REMEDY = (
 def set_property(session, arguments):
     section, key = split_name(arguments["SECTION/PROPERTY"])
     value = arguments["VALUE"]
-    _warn_of_environment(session, section, key)
     if (section, key) == ("core", "project"):
         _check_project(session, value)
+    if (section, key) == ("core", "account"):
+        credentials.open_stores(session)
+    _warn_of_environment(session, section, key)
     session.configurations.file_to_change().set(section, key, value, session.faults)
     session.configurations.invalidate_caches()
     session.err(f"Updated property [{section}/{key}].\n")
@@ -41,7 +43,8 @@ def unset_property(session, arguments):
 def list_properties(session, arguments):
     sections = {}
     for (section, key), value in session.properties(arguments["--configuration"]).items():
-        sections.setdefault(section, {})[key] = value
+        if is_known(section, key):
+            sections.setdefault(section, {})[key] = value
     session.out(json.dumps(sections, indent=2, sort_keys=True, ensure_ascii=False) + "\n")
 
 
@@ -100,7 +103,7 @@ def _warn_if_not_visible(session, project):
         if failure.status != 403:
             raise
         session.warn(
-            f"[{session.property('core', 'account')}] does not have permission to access projects "
+            f"[{credentials.caller(session)}] does not have permission to access projects "
             f"instance [{name}] (or it may not exist): {failure.body}. "
             f"{credentials.acting_as(session)}"
         )

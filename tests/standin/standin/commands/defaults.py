@@ -4,7 +4,7 @@
 
 import os
 
-from .. import adc, signin
+from .. import adc, quota, signin
 from ..errors import GcloudError
 from ..world import new_token
 
@@ -14,7 +14,7 @@ def login(session, arguments):
     service_account = arguments["--impersonate-service-account"] or session.property(
         "auth", "impersonate_service_account"
     )
-    session.configuration_store().remember("cred_token_store_formatted", "client_arch")
+    session.configuration_store().remember("client_arch")
     user = signin.sign_in(session)
     content = adc.user_content({**signin.client(), "refresh_token": new_token("refresh", user)})
     if service_account:
@@ -36,9 +36,8 @@ def set_quota_project(session, arguments):
             "value for field [projectId] in collection [cloudresourcemanager.projects] "
             "is required but was not provided"
         )
-    if not adc.may_bill(session, content, project):
-        old = content.get("quota_project_id") or session.property("core", "project")
-        adc.write(session, adc.user_content(content, old))
+    if not quota.may_bill(session, content, project):
+        _write_other_quota_project(session, content)
         raise GcloudError(
             f'Cannot add the project "{project}" to application default credentials (ADC) as a '
             "quota project because the account in ADC does not have the "
@@ -46,7 +45,7 @@ def set_quota_project(session, arguments):
         )
     adc.write(session, adc.user_content(content, project))
     adc.announce_saved(session)
-    adc.announce_quota_project(session, project)
+    quota.announce(session, project)
 
 
 def revoke(session, _arguments):
@@ -60,7 +59,7 @@ def revoke(session, _arguments):
             "The given credential file is a service account credential, and cannot be revoked."
         )
     if content["type"] == adc.USER:
-        session.configuration_store().remember("cred_token_store_formatted")
+        session.configuration_store().remember("client_arch")
         if not session.api.revoke(content["refresh_token"]):
             raise GcloudError("('invalid_token', 'Token expired or revoked')")
     os.remove(adc.path(session))
@@ -88,6 +87,19 @@ def _user_content_on_file(session):
     return content
 
 
+def _write_other_quota_project(session, content):
+    """Writes the credentials with the quota project that they had, else with the active one."""
+    project = content.get("quota_project_id") or session.property("core", "project")
+    if project:
+        adc.write(session, adc.user_content(content, project))
+        return
+    session.warn(
+        "Cannot find a project to insert into application default credentials (ADC) as a quota "
+        "project.\nRun $gcloud auth application-default set-quota-project to insert a quota "
+        "project to ADC."
+    )
+
+
 def _add_active_project(session, content):
     """Makes the active project the quota project of fresh credentials, if that may be."""
     project = session.property("core", "project")
@@ -97,9 +109,9 @@ def _add_active_project(session, content):
             "\nCannot find a quota project to add to ADC. You might receive a "
             f'"quota exceeded" or "API not enabled" error. {remedy}'
         )
-    elif adc.may_bill(session, content, project):
+    elif quota.may_bill(session, content, project):
         adc.write(session, adc.user_content(content, project))
-        adc.announce_quota_project(session, project)
+        quota.announce(session, project)
     else:
         session.warn(
             f'\nCannot add the project "{project}" to ADC as the quota project because the account '

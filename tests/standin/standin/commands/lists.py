@@ -21,10 +21,8 @@ _PROJECT_MISSING = (
 
 
 def accounts(session, _arguments):
-    stored = session.credentials.accounts()
-    session.configuration_store().remember("cred_token_store_formatted")
+    stored = credentials.open_stores(session)
     active = session.property("core", "account")
-    session.tokens.has_valid(active)
     _print(
         session,
         [{"account": name, "status": "ACTIVE" if name == active else ""} for name in stored],
@@ -120,7 +118,7 @@ def _refusal(session, project, user, failure):
             "IAM_PERMISSION_DENIED",
         )
     return GcloudError(
-        f"[{session.property('core', 'account')}] does not have permission to access projects "
+        f"[{credentials.caller(session)}] does not have permission to access projects "
         f"instance [{project}] (or it may not exist): {reason}. "
         f"{credentials.acting_as(session)}{details}"
     )

@@ -1,0 +1,206 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Torvi developers
+# SPDX-License-Identifier: MIT
+"""Plays one script of commands on the stand-in and on the real gcloud, and compares.
+
+    compare.py [-v]     -v: show what differs
+
+After each command: the exit code, standard output, the error text, and all files below the
+configuration directory. Exits with 0 when everything is the same, 1 when something differs, 77 when
+the real gcloud cannot be run here.
+"""
+
+import json
+import os
+import re
+import shutil
+import sqlite3
+import sys
+
+import api_server
+import script
+from harness import GCLOUD, Scratch, run, snapshot
+from standin.directory import Directory
+
+SKIPPED = 77
+_BROWSER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "browser")
+
+
+def obstacle():
+    """Returns why the comparison cannot be made here, or None."""
+    for program in ("gcloud", "openssl"):
+        if shutil.which(program) is None:
+            return f"{program} is not installed"
+    return api_server.obstacle()
+
+
+class Player:
+    """One gcloud with a configuration directory of its own."""
+
+    def __init__(self, scratch, program, **environment):
+        self.scratch = scratch
+        self.program = program
+        self._environment = environment
+
+    def play(self, step):
+        """Runs the step; returns {what: how it looks}, ready for comparison."""
+        self._prepare(step)
+        logs = len(_logs(self.scratch.config))
+        done = run(step.arguments, self._step_environment(step), self.program)
+        return {
+            "exit code": done.exit,
+            "standard output": _output(done.stdout),
+            "standard error": _text(done.stderr, self.scratch.path),
+            "log files": len(_logs(self.scratch.config)) - logs,
+            **_files(self.scratch.config),
+        }
+
+    def _prepare(self, step):
+        path = os.path.join(self.scratch.config, "application_default_credentials.json")
+        if step.adc is False and os.path.exists(path):
+            os.remove(path)
+        elif step.adc is not None and step.adc is not False:
+            Directory(self.scratch.config).write_adc(step.adc)
+        for name, text in step.files.items():
+            with open(os.path.join(self.scratch.config, name), "w", encoding="utf-8") as file:
+                file.write(text)
+
+    def _step_environment(self, step):
+        more = dict(step.environment)
+        if step.user is not None:
+            more |= {"DISPLAY": ":99", "BROWSER": _BROWSER, "TORVI_DEMO_USER": step.user}
+            more["TORVI_DEMO_SIGN_IN_SECONDS"] = "0"
+        return self.scratch.environment(**self._environment, **more)
+
+
+def _output(text):
+    """Returns the text; of JSON only what is set, since versions of gcloud know more or less."""
+    if re.fullmatch(r"[-\w]+\.[-\w]+\.[-\w]+\n", text):
+        return "IDENTITY TOKEN"
+    try:
+        return json.dumps(_without_unset(json.loads(text)), indent=1, ensure_ascii=False)
+    except json.JSONDecodeError:
+        return text
+
+
+def _without_unset(value):
+    if isinstance(value, list):
+        return [_without_unset(element) for element in value]
+    if isinstance(value, dict):
+        kept = {key: _without_unset(element) for key, element in value.items()}
+        return {key: element for key, element in kept.items() if element not in (None, {})}
+    return value
+
+
+def _text(text, path):
+    """Returns the text without what differs from run to run."""
+    for pattern, replacement in (
+        (re.escape(path), "SCRATCH"),
+        (r"client_id=[-.\w]+", "client_id=ID"),
+        (r"state=\w+", "state=STATE"),
+        (r"code_challenge=[-\w]+", "code_challenge=CHALLENGE"),
+        (r"localhost%3A\d+", "localhost%3A8085"),
+        (r"at 0x[0-9a-f]+", "at 0x"),
+        (r"missing fields [\w, ]+", "missing fields"),
+    ):
+        text = re.sub(pattern, replacement, text)
+    return text
+
+
+def _logs(directory):
+    return [path for path in snapshot(directory) if path.startswith("logs/") and path[-1] != "/"]
+
+
+def _files(directory):
+    """Returns {path: how it looks} of everything but logs and what depends on the time only."""
+    looks = {}
+    for path, facts in snapshot(directory).items():
+        if path.startswith("logs/") or path in ("gce", ".last_survey_prompt.yaml"):
+            continue
+        looks[path] = f"mode {facts['mode']:o}\n{_content(directory, path)}" if facts else "folder"
+    return looks
+
+
+def _content(directory, path):
+    full = os.path.join(directory, path)
+    if path.endswith(".db"):
+        return _database(full)
+    with open(full, encoding="utf-8") as file:
+        text = file.read()
+    if path.endswith(".json"):
+        text = re.sub(r'"(client_id|client_secret|refresh_token)": "[^"]*"', r'"\1": "…"', text)
+    return text
+
+
+def _database(path):
+    """Returns the tables with the keys of their rows."""
+    with sqlite3.connect(f"file:{path}?mode=ro", uri=True) as database:
+        tables = database.execute("SELECT name, sql FROM sqlite_master WHERE type = 'table'")
+        return "\n".join(
+            f"{sql}: {_keys(database.execute(f'SELECT * FROM {name}'))}"
+            for name, sql in tables.fetchall()
+        )
+
+
+def _keys(rows):
+    """Returns the first column, sorted. Tokens of ADC files have the hash of a secret there."""
+    return sorted(re.sub("^[0-9a-f]{64}$", "HASH", row[0]) for row in rows)
+
+
+def _differences(real, standin):
+    return [
+        (what, real.get(what), standin.get(what))
+        for what in {**real, **standin}
+        if real.get(what) != standin.get(what)
+    ]
+
+
+def _report(step, differences, verbose):
+    print(("DIFFERENT  " if differences else "same       ") + str(step), flush=True)
+    for what, real, standin in differences if verbose else []:
+        print(f"  {what}:\n    gcloud:   {real!r}\n    stand-in: {standin!r}")
+    return bool(differences)
+
+
+def compare(verbose):
+    """Plays the script; returns the number of steps that differ and of all steps."""
+    with Scratch() as real_scratch, Scratch() as own_scratch:
+        certificate, key = api_server.make_certificate(real_scratch.path)
+        common = {
+            "CLOUDSDK_CORE_DISABLE_USAGE_REPORTING": "true",
+            "CLOUDSDK_COMPONENT_MANAGER_DISABLE_UPDATE_CHECK": "true",
+            "CLOUDSDK_CORE_CHECK_GCE_METADATA": "false",
+        }
+        world = own_scratch.write_json("world.json", api_server.world())
+        with api_server.ApiServer(real_scratch.path, certificate, key) as server:
+            real = Player(real_scratch, shutil.which("gcloud"), **common, **server.environment())
+            own = Player(own_scratch, GCLOUD, **common, TORVI_STANDIN_WORLD=world)
+            for scratch in (real_scratch, own_scratch):
+                script.build(Directory(scratch.config), key)
+            steps = script.steps(key)
+            return _play(steps, real, own, verbose), len(steps)
+
+
+def _play(steps, real, own, verbose):
+    """Plays the steps and returns how many of them differ in more than the step before."""
+    different, known = 0, []
+    for step in steps:
+        found = _differences(real.play(step), own.play(step))
+        new = [difference for difference in found if difference not in known]
+        known = found
+        different += _report(step, new, verbose)
+    return different
+
+
+def main(arguments):
+    reason = obstacle()
+    if reason is not None:
+        print(f"not compared: {reason}")
+        return SKIPPED
+    different, count = compare("-v" in arguments)
+    print(f"{count} commands compared, {different} differ")
+    return 1 if different else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
