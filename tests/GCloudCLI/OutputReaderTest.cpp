@@ -8,6 +8,13 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
@@ -66,6 +73,22 @@ TEST_F(OutputReaderTest, TakesWhatIsInThePipesWhenTheDrainTimeIsOver)
 
     EXPECT_EQ(output.size(), 60'000);
     EXPECT_EQ(error.size(), 60'000);
+}
+
+TEST_F(OutputReaderTest, TakesMoreThanOneReadFromThePipesWhenTheDrainTimeIsOver)
+{
+    const ChildProcess child = start(u"echo $$; kill -STOP $$; head -c 200000 /dev/zero"_s);
+    std::array<char, 16> pid{};
+    ASSERT_GT(::read(child.standardOutput(), pid.data(), pid.size() - 1), 0);
+    ASSERT_GE(::fcntl(child.standardOutput(), F_SETPIPE_SZ, 256 * 1024), 200'000);
+    siginfo_t stopped{};
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(std::atoi(pid.data())), &stopped, WSTOPPED), 0);
+    ASSERT_EQ(::kill(std::atoi(pid.data()), SIGCONT), 0);
+    waitForExit(child);
+
+    EXPECT_EQ(read(child, { .drain = 0s }), End::exited);
+
+    EXPECT_EQ(output.size(), 200'000);
 }
 
 TEST_F(OutputReaderTest, StopsWhenAsked)
