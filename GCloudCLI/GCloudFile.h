@@ -21,7 +21,7 @@ enum class FileKind {
 
 /// Longer files are not read: gcloud's own are a few hundred bytes, and nobody wants to wait for
 /// the one that somebody else put in their place.
-inline constexpr qint64 kMaximumSize = 16 * 1024 * 1024;
+inline constexpr qint64 kMaximumSize = qint64{ 16 } * 1024 * 1024;
 
 /// What `path` names, links followed.
 [[nodiscard]] FileKind fileKind(const QString &path);

@@ -4,6 +4,7 @@
 #include "GCloudCLI/WhiteSpace.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace torvi {
 
@@ -45,9 +46,9 @@ QStringView trimmedWhiteSpaceAndLineBreaks(QStringView text)
 QList<QStringView> lines(QStringView text)
 {
     QList<QStringView> result;
-    auto begin = text.begin();
+    QStringView::const_iterator begin = text.begin();
     while (true) {
-        const auto end = std::find_if(begin, text.end(), isLineBreak);
+        const QStringView::const_iterator end = std::find_if(begin, text.end(), isLineBreak);
         result.append(QStringView(begin, end));
         if (end == text.end()) {
             return result;
