@@ -6,7 +6,6 @@
 #include "tests/gcloud/GCloudProcesses.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -32,10 +31,11 @@ QJsonDocument decoded(const Ended &ended)
     return document;
 }
 
-/// The real gcloud, if the environment is still that of the test in `home`.
+/// The real gcloud, if the environment is still that of the test in `home`. Keeps a record.
 QByteArray guardedGCloud(const QString &home)
 {
-    return uR"(case "$HOME:$CLOUDSDK_CONFIG:$HTTPS_PROXY:$REQUESTS_CA_BUNDLE" in
+    return uR"(echo "$*" >>"%1/runs"
+case "$HOME:$CLOUDSDK_CONFIG:$HTTPS_PROXY:$REQUESTS_CA_BUNDLE" in
 "%1:%1/"*:http://127.0.0.1:*:/*) exec "%2" "$@" ;;
 esac
 echo "gcloud was started without the environment of the test" >&2
@@ -54,7 +54,6 @@ void GCloudTest::SetUp()
     std::filesystem::copy(signedIn.file(u"config"_s).toStdString(),
                           scratch.filePath(u"config"_s).toStdString(),
                           std::filesystem::copy_options::recursive);
-    QDir(scratch.filePath(u"config/logs"_s)).removeRecursively(); // runs are counted by them
     google = std::make_unique<StandIn>(signedIn.file(u"certificate.pem"_s));
     ASSERT_TRUE(google->isRunning());
     environment = scratchEnvironment(scratch.path());
@@ -160,15 +159,11 @@ void GCloudTest::forgetAccessTokens()
     EXPECT_TRUE(QFile::remove(configFile(u"access_tokens.db"_s)));
 }
 
-int GCloudTest::runsOfGCloud()
+QStringList GCloudTest::runs()
 {
-    int runs = 0;
-    for (QDirIterator logs(configFile(u"logs"_s), { u"*.log"_s }, QDir::Files,
-                           QDirIterator::Subdirectories);
-         logs.hasNext(); logs.next()) {
-        ++runs;
-    }
-    return runs;
+    const QString record = scratch.filePath(u"runs"_s);
+    const QByteArray lines = QFile::exists(record) ? readFile(record) : QByteArray();
+    return QString::fromUtf8(lines).split(u'\n', Qt::SkipEmptyParts);
 }
 
 QString GCloudTest::haveProgram(const QString &name, const QByteArray &script)

@@ -52,8 +52,8 @@ protected:
     /// gcloud has to ask for a new access token before it does anything else.
     void forgetAccessTokens();
 
-    /// How often gcloud was run on the directory so far: each run leaves a log file.
-    int runsOfGCloud();
+    /// The arguments of each run of gcloud so far, separated by blanks.
+    QStringList runs();
 
     /// A shell script in scratch/bin; yields its path.
     QString haveProgram(const QString &name, const QByteArray &script);

@@ -73,8 +73,7 @@ TEST_F(GCloudImpersonationTest, ForBothStopsBeforeTheSignInWhenTheFirstStepFails
     ASSERT_TRUE(exitedWith(1, ended));
     EXPECT_TRUE(ended.errors.contains("ERROR: gcloud failed to load"))
         << ended.errors.toStdString();
-    EXPECT_EQ(signInAddresses(ended.errors), QStringList());
-    EXPECT_EQ(google->requests(), QStringList());
+    EXPECT_EQ(runs(), QStringList{ u"config set auth/impersonate_service_account "_s + reader });
 }
 
 TEST_F(GCloudImpersonationTest, ForBothKeepsTheFirstStepWhenTheUserCancels)
@@ -102,7 +101,7 @@ TEST_F(GCloudImpersonationTest, AnUnknownModeIsAUsageError)
     const Ended ended = torvictl({ u"impersonate"_s, reader, u"--mode"_s, u"everywhere"_s });
 
     EXPECT_TRUE(exitedWith(2, ended));
-    EXPECT_EQ(runsOfGCloud(), 0);
+    EXPECT_EQ(runs(), QStringList());
 }
 
 TEST_F(GCloudImpersonationTest, ClearedForADCRevokesAndRemovesTheCredentials)

@@ -47,7 +47,7 @@ TEST_F(GCloudProjectsTest, ComeFromAllPages)
                       u"orchard-stage-5150"_s, u"zz-cafe-demo-0002"_s }));
     EXPECT_EQ(google->callers(u"/v1/projects"_s),
               QStringList({ u"dana@example.com"_s, u"dana@example.com"_s }));
-    EXPECT_EQ(runsOfGCloud(), 1);
+    EXPECT_EQ(runs(), QStringList{ u"projects list --format=json --sort-by=projectId"_s });
 }
 
 TEST_F(GCloudProjectsTest, HaveTheirFieldsInOrder)

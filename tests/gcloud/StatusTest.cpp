@@ -77,7 +77,7 @@ TEST_F(GCloudStatusTest, RunsNoGCloud)
 {
     ASSERT_TRUE(exitedWith(0, torvictl({ u"status"_s })));
 
-    EXPECT_EQ(runsOfGCloud(), 0);
+    EXPECT_EQ(runs(), QStringList());
     EXPECT_EQ(google->requests(), QStringList());
 }
 

@@ -24,7 +24,9 @@ TEST_F(GCloudSwitchAccountTest, FetchesTheProjectsOfTheNewAccount)
     ASSERT_TRUE(exitedWith(0, torvictl({ u"switch-account"_s, u"sam@labs.example.com"_s })));
 
     EXPECT_EQ(google->callers(u"/v1/projects"_s), QStringList{ u"sam@labs.example.com"_s });
-    EXPECT_EQ(runsOfGCloud(), 2);
+    EXPECT_EQ(runs(),
+              QStringList({ u"config set account sam@labs.example.com"_s,
+                            u"projects list --format=json --sort-by=projectId"_s }));
 }
 
 TEST_F(GCloudSwitchAccountTest, TakesAServiceAccount)

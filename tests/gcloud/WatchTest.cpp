@@ -42,7 +42,7 @@ TEST_F(GCloudWatchTest, ShowsTheStatusAtOnce)
     EXPECT_TRUE(waitForContext(*watch, [](const QJsonObject &context) {
         return context[u"activeProject"][u"id"] == u"orchard-prod-5150"_s;
     }));
-    EXPECT_EQ(runsOfGCloud(), 0);
+    EXPECT_EQ(runs(), QStringList());
 }
 
 TEST_F(GCloudWatchTest, SeesAProjectThatIsSetInATerminal)
@@ -55,7 +55,7 @@ TEST_F(GCloudWatchTest, SeesAProjectThatIsSetInATerminal)
     EXPECT_TRUE(waitForContext(*watch, [](const QJsonObject &context) {
         return context[u"activeProject"][u"id"] == u"orchard-data-5150"_s;
     }));
-    EXPECT_EQ(runsOfGCloud(), 1);
+    EXPECT_EQ(runs().size(), 1); // the one in the terminal
 }
 
 TEST_F(GCloudWatchTest, SeesTheLastOfManyChanges)
@@ -116,7 +116,7 @@ TEST_F(GCloudWatchTest, SeesWhatAnotherTorvictlDoes)
     EXPECT_TRUE(waitForContext(*watch, [](const QJsonObject &context) {
         return context[u"activeProject"][u"id"] == u"orchard-stage-5150"_s;
     }));
-    EXPECT_EQ(runsOfGCloud(), 1);
+    EXPECT_EQ(runs().size(), 1); // the other torvictl's
 }
 
 TEST_F(GCloudWatchTest, SeesADirectoryThatGCloudMakesLater)
