@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 """Plays one script of commands on the stand-in and on the real gcloud, and compares.
 
-    compare.py [-v]     -v: show what differs
+    compare.py [-v] [CHAPTER...]     -v: show what differs
 
 After each command: the exit code, standard output, the error text, and all files below the
 configuration directory. Exits with 0 when everything is the same, 1 when something differs, 77 when
@@ -162,8 +162,8 @@ def _report(step, differences, verbose):
     return bool(differences)
 
 
-def compare(verbose):
-    """Plays the script; returns the number of steps that differ and of all steps."""
+def compare(chapter, verbose):
+    """Plays the chapter; returns the number of steps that differ and of all its steps."""
     with Scratch() as real_scratch, Scratch() as own_scratch:
         certificate, key = api_server.make_certificate(real_scratch.path)
         common = {
@@ -177,7 +177,7 @@ def compare(verbose):
             own = Player(own_scratch, GCLOUD, **common, TORVI_STANDIN_WORLD=world)
             for scratch in (real_scratch, own_scratch):
                 script.build(Directory(scratch.config), key)
-            steps = script.steps(key)
+            steps = script.CHAPTERS[chapter](key)
             return _play(steps, real, own, verbose), len(steps)
 
 
@@ -197,7 +197,9 @@ def main(arguments):
     if reason is not None:
         print(f"not compared: {reason}")
         return SKIPPED
-    different, count = compare("-v" in arguments)
+    chapters = [word for word in arguments if word != "-v"] or list(script.CHAPTERS)
+    results = [compare(chapter, "-v" in arguments) for chapter in chapters]
+    different, count = map(sum, zip(*results))
     print(f"{count} commands compared, {different} differ")
     return 1 if different else 0
 

@@ -163,7 +163,9 @@ class DemoWorld:
 
 
 def _quoted(text):
-    """Returns the text as a value of an INI file of QSettings."""
+    """Returns the text as a value of an INI file of QSettings: in quotes where they are needed."""
+    if not set(text) & set(';,="\\'):
+        return text
     return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
 

@@ -5,6 +5,7 @@
 import json
 import os
 import re
+import select
 import shutil
 import signal
 import subprocess
@@ -100,7 +101,7 @@ class Run:
         """Waits for the sign-in address on standard error and returns it."""
         pattern = re.compile(rb"(https://accounts\.google\.com/\S+S256)\n")
         while not (match := pattern.search(self._stderr_head)):
-            piece = os.read(self._process.stderr.fileno(), 65536)
+            piece = self.read("stderr", 65536)
             if not piece:
                 raise AssertionError(f"no sign-in address in {self._stderr_head!r}")
             self._stderr_head += piece
@@ -111,7 +112,10 @@ class Run:
 
     def read(self, stream, size):
         """Waits for some output and returns it. stream: "stdout" or "stderr"."""
-        return os.read(getattr(self._process, stream).fileno(), size)
+        descriptor = getattr(self._process, stream).fileno()
+        if not select.select([descriptor], [], [], DEADLINE)[0]:
+            raise AssertionError(f"nothing on {stream}")
+        return os.read(descriptor, size)
 
     def holds(self, stream):
         """True when nothing is to be read and somebody could still write."""

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Torvi developers
 # SPDX-License-Identifier: MIT
-"""The script of commands that compare.py plays on both gclouds, one step after the other."""
+"""The script of commands that compare.py plays on both gclouds, in chapters."""
 
 from standin.directory import external_adc, service_account_key, user_adc
 
@@ -24,6 +24,9 @@ _PROJECTS = ["projects", "list", "--format=json", "--sort-by=projectId"]
 _PROPERTIES = ["config", "list", "--format=json"]
 _ROBOTS = ["iam", "service-accounts", "list", "--format=json"]
 _IMPERSONATION = "auth/impersonate_service_account"
+
+_DANA = user_adc(DANA)
+_DANA_PROD = user_adc(DANA, PROD)
 
 
 class Step:
@@ -64,13 +67,8 @@ def build(directory, key):
     )
 
 
-def steps(key):
-    """Returns the script. key: the service account's private key in PEM form."""
-    user = user_adc(DANA)
-    user_prod = user_adc(DANA, PROD)
-    robot = service_account_key(DEPLOYER, key)
+def _reading(_key):
     return [
-        # Reading.
         Step(["auth", "list", "--format=json"]),
         Step(["config", "configurations", "list", "--format=json"]),
         Step(_PROPERTIES),
@@ -84,7 +82,11 @@ def steps(key):
         Step([*_ROBOTS, "--project="]),
         Step([*_ROBOTS, "--project=unheard-of"]),
         Step(_IDENTITY),
-        # Projects and accounts.
+    ]
+
+
+def _projects(key):
+    return [
         Step([*_SET, "project", STAGE]),
         Step([*_SET, "project", "unheard-of"]),
         Step([*_SET, "project", "771000000005"]),
@@ -93,20 +95,25 @@ def steps(key):
         Step([*_SET, "project", "Orchard_PROD"]),
         Step([*_SET, "project", "a_b"]),
         Step([*_SET, "project", ""]),
-        Step([*_SET, "project", STAGE], adc=user),
-        Step([*_SET, "project", "unheard-of"], adc=user),
-        Step([*_SET, "project", "Orchard_PROD"], adc=user),
-        Step([*_SET, "project", ""], adc=user),
-        Step([*_SET, "project", PROD], adc=user_prod),
-        Step([*_SET, "project", STAGE], adc=robot),
+        Step([*_SET, "project", STAGE], adc=_DANA),
+        Step([*_SET, "project", "unheard-of"], adc=_DANA),
+        Step([*_SET, "project", "Orchard_PROD"], adc=_DANA),
+        Step([*_SET, "project", ""], adc=_DANA),
+        Step([*_SET, "project", PROD], adc=_DANA_PROD),
+        Step([*_SET, "project", STAGE], adc=service_account_key(DEPLOYER, key)),
         Step([*_SET, "project", STAGE], adc=external_adc(DEPLOYER)),
         Step([*_SET, "project", PROD], adc="{ not json"),
         Step([*_SET, "project", PROD], adc=""),
         Step([*_SET, "project", PROD], adc="{}"),
         Step([*_SET, "project", PROD], adc="[]"),
         Step([*_SET, "project", PROD], adc='{"type": "nonsense"}'),
-        Step([*_SET, "project", PROD], adc=user, CLOUDSDK_CORE_PROJECT=STAGE),
+        Step([*_SET, "project", PROD], adc=_DANA, CLOUDSDK_CORE_PROJECT=STAGE),
         Step([*_SET, "project", "unheard-of"], adc=False, CLOUDSDK_CORE_ACCOUNT=SAM),
+    ]
+
+
+def _accounts(_key):
+    return [
         Step([*_SET, "account", SAM]),
         Step([*_SET, "account", "per%cent@example.com"]),
         Step([*_SET, "project", PROD]),
@@ -121,18 +128,22 @@ def steps(key):
         Step([*_SET, "account", DANA], CLOUDSDK_ACTIVE_CONFIG_NAME="labs"),
         Step([*_SET, "account", DANA], CLOUDSDK_ACTIVE_CONFIG_NAME="nowhere"),
         Step(["config", "unset", "compute/region"]),
-        # Configurations.
+    ]
+
+
+def _configurations(_key):
+    return [
         Step([*_CREATE, "fresh"]),
         Step(_PROPERTIES),
         Step([*_CREATE, "fresh"]),
         Step([*_CREATE, "Fresh_One"]),
         Step([*_CREATE, "NONE"]),
         Step([*_DELETE, "fresh"]),
-        Step([*_ACTIVATE, "labs"], adc=user_prod),
+        Step([*_ACTIVATE, "labs"], adc=_DANA_PROD),
         Step([*_ACTIVATE, "robot"]),
         Step([*_ACTIVATE, "default"]),
         Step([*_ACTIVATE, "labs"], adc="{ not json"),
-        Step([*_ACTIVATE, "default"], adc=user_prod, CLOUDSDK_ACTIVE_CONFIG_NAME="labs"),
+        Step([*_ACTIVATE, "default"], adc=_DANA_PROD, CLOUDSDK_ACTIVE_CONFIG_NAME="labs"),
         Step([*_ACTIVATE, "nowhere"]),
         Step([*_ACTIVATE, ""]),
         Step([*_DELETE, "fresh"]),
@@ -150,15 +161,19 @@ def steps(key):
         Step([*_SET, "account", DANA]),
         Step(_PROPERTIES, files={"configurations/config_labs": "[core]\naccount: x\n# y\nA = 1\n"}),
         Step([*_PROPERTIES, "--configuration=labs"]),
-        # Impersonation.
+    ]
+
+
+def _impersonation(_key):
+    return [
         Step([*_SET, _IMPERSONATION, READER]),
         Step(_PROJECTS),
         Step([*_SET, "project", DATA]),
         Step([*_SET, "project", PROD]),
         Step([*_ROBOTS, f"--project={PROD}"]),
-        Step(_QUOTA + ["unheard-of"], adc=user_prod),
+        Step(_QUOTA + ["unheard-of"], adc=_DANA_PROD),
         Step(_QUOTA + [PROD], adc=user_adc(SAM)),
-        Step(_QUOTA + [DATA], adc=user_prod),
+        Step(_QUOTA + [DATA], adc=_DANA_PROD),
         Step(_IDENTITY),
         Step([*_SET, _IMPERSONATION, "stranger@example.com"]),
         Step(_PROJECTS),
@@ -170,34 +185,46 @@ def steps(key):
         Step([*_SET, _IMPERSONATION, ""]),
         Step(["config", "unset", _IMPERSONATION]),
         Step(["config", "unset", _IMPERSONATION]),
-        # Application default credentials.
+    ]
+
+
+def _credentials(key):
+    return [
         Step([*_LOGIN[:3], f"--impersonate-service-account={DEPLOYER}", "--quiet"], user=DANA),
         Step([*_LOGIN[:3], "--impersonate-service-account=", "--quiet"], user=DANA),
         Step(_LOGIN, user=SAM),
         Step(_LOGIN, user=DANA, CLOUDSDK_CORE_PROJECT=DATA),
-        Step(_LOGIN, user=DANA, adc=robot),
+        Step(_LOGIN, user=DANA, adc=service_account_key(DEPLOYER, key)),
         Step(_QUOTA + [STAGE]),
         Step(_QUOTA + [DATA]),
-        Step(_QUOTA + [DATA], adc=user),
-        Step(_QUOTA + [DATA], adc=user, CLOUDSDK_ACTIVE_CONFIG_NAME="robot"),
-        Step(_QUOTA + ["unheard-of"], adc=user_prod),
-        Step(_QUOTA + ["a b"], adc=user_prod),
-        Step(_QUOTA + [""], adc=user_prod),
-        Step(_QUOTA + [PROD], adc=robot),
+        Step(_QUOTA + [DATA], adc=_DANA),
+        Step(_QUOTA + [DATA], adc=_DANA, CLOUDSDK_ACTIVE_CONFIG_NAME="robot"),
+        Step(_QUOTA + ["unheard-of"], adc=_DANA_PROD),
+        Step(_QUOTA + ["a b"], adc=_DANA_PROD),
+        Step(_QUOTA + [""], adc=_DANA_PROD),
+        Step(_QUOTA + [PROD], adc=service_account_key(DEPLOYER, key)),
         Step(_QUOTA + [PROD], adc="{ not json"),
         Step(_QUOTA + [PROD], adc=False),
         Step(_REVOKE),
-        Step(_REVOKE, adc=robot),
+        Step(_REVOKE, adc=service_account_key(DEPLOYER, key)),
         Step(_REVOKE, adc=external_adc(DEPLOYER)),
         Step(_REVOKE, adc="{ not json"),
-        Step(_REVOKE, adc=user),
+        Step(_REVOKE, adc=_DANA),
         Step(_LOGIN),
-        # A service account.
+    ]
+
+
+def _robot(_key):
+    return [
         Step([*_ACTIVATE, "robot"]),
         Step(_PROJECTS),
         Step([*_SET, "project", PROD]),
         Step(_IDENTITY),
-        # Wrong command lines.
+    ]
+
+
+def _usage(_key):
+    return [
         Step([*_SET, "project"]),
         Step([*_SET, "project", "-x"]),
         Step([*_SET, "a", "b", "c"]),
@@ -211,3 +238,16 @@ def steps(key):
         Step([*_LOGIN, "--impersonate-service-account"]),
         Step(["config", "unset", "nothing"]),
     ]
+
+
+# Each chapter begins with the directory that build() makes. Called with the private key.
+CHAPTERS = {
+    "reading": _reading,
+    "projects": _projects,
+    "accounts": _accounts,
+    "configurations": _configurations,
+    "impersonation": _impersonation,
+    "credentials": _credentials,
+    "robot": _robot,
+    "usage": _usage,
+}

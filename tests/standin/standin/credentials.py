@@ -43,6 +43,7 @@ def identity(session):
 
     Gets the tokens that this needs, and warns when it impersonates.
     """
+    session.configuration_store().remember("client_arch")
     account = active_account(session)
     service_account = impersonated(session)
     if service_account:
@@ -54,7 +55,6 @@ def identity(session):
         )
         return service_account
     credentials = load(session, account)
-    session.configuration_store().remember("client_arch")
     if not session.tokens.has_valid(account):
         refresh(session, account, credentials)
     return account

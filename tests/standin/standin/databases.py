@@ -67,10 +67,14 @@ class CredentialStore:
 
 
 class TokenStore:
-    """The cached access tokens, in `directory`/access_tokens.db. Tokens live for an hour."""
+    """The cached access tokens, in `directory`/access_tokens.db. Tokens live for an hour.
 
-    def __init__(self, directory):
+    is_private: False where gcloud does not care for the file's mode: with tokens of ADC files.
+    """
+
+    def __init__(self, directory, is_private=True):
         self._path = os.path.join(directory, "access_tokens.db")
+        self._is_private = is_private
 
     def has_valid(self, key):
         """True when a token is cached under the key that will last a few minutes yet."""
@@ -89,7 +93,8 @@ class TokenStore:
             )
 
     def _open(self):
-        touch_private(self._path)
+        if self._is_private:
+            touch_private(self._path)
         return _database(self._path, _TOKENS)
 
 

@@ -5,6 +5,7 @@
 from . import adc
 from .api import MANAGER_HOST
 from .credentials import acting_as, caller, impersonate, impersonated
+from .databases import TokenStore
 from .errors import GcloudError, HttpFailure
 
 
@@ -33,9 +34,10 @@ def _get_token(session, refresh_token, user):
     import hashlib  # Only here: most commands never need it.
 
     key = hashlib.sha256(refresh_token.encode()).hexdigest()
-    if not session.tokens.has_valid(key):
+    tokens = TokenStore(session.directory, is_private=False)
+    if not tokens.has_valid(key):
         session.api.refresh(user)
-        session.tokens.store(key, f"stand-in-token-{user}")
+        tokens.store(key, f"stand-in-token-{user}")
 
 
 def _ask(session, user, project):

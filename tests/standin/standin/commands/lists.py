@@ -30,7 +30,6 @@ def accounts(session, _arguments):
 
 
 def projects(session, _arguments):
-    session.configuration_store().remember("cred_token_store_formatted")
     user = credentials.identity(session)
     found = []
     try:
@@ -66,7 +65,6 @@ def service_accounts(session, arguments):
 
 
 def _service_accounts(session, project):
-    session.configuration_store().remember("cred_token_store_formatted")
     if project is None:
         raise GcloudError(_PROJECT_MISSING)
     user = credentials.identity(session)
