@@ -28,7 +28,8 @@ std::optional<QList<ServiceAccount>> decodedList(const QJsonValue &value)
         return std::nullopt;
     }
     QList<ServiceAccount> accounts;
-    for (const QJsonValue &element : value.toArray()) {
+    const QJsonArray elements = value.toArray();
+    for (const auto &element : elements) {
         const std::optional<ServiceAccount> account = ServiceAccount::decoded(element);
         if (!account) {
             return std::nullopt;
