@@ -10,16 +10,15 @@ configuration directory. Exits with 0 when everything is the same, 1 when someth
 the real gcloud cannot be run here.
 """
 
-import json
 import os
-import re
 import shutil
-import sqlite3
+import subprocess
 import sys
 
 import api_server
+import looks
 import script
-from harness import GCLOUD, Scratch, run, snapshot
+from harness import DEADLINE, GCLOUD, Run, Scratch, run
 from standin.directory import Directory
 
 SKIPPED = 77
@@ -45,15 +44,32 @@ class Player:
     def play(self, step):
         """Runs the step; returns {what: how it looks}, ready for comparison."""
         self._prepare(step)
-        logs = len(_logs(self.scratch.config))
-        done = run(step.arguments, self._step_environment(step), self.program)
+        logs = len(looks.logs(self.scratch.config))
+        done = self._run(step, logs)
         return {
             "exit code": done.exit,
-            "standard output": _output(done.stdout),
-            "standard error": _text(done.stderr, self.scratch.path),
-            "log files": len(_logs(self.scratch.config)) - logs,
-            **_files(self.scratch.config),
+            "standard output": looks.output(done.stdout),
+            "standard error": looks.text(done.stderr, self.scratch.path),
+            "log files": len(looks.logs(self.scratch.config)) - logs,
+            **looks.files(self.scratch.config),
         }
+
+    def _run(self, step, logs):
+        """Runs the command, a second time when it hangs before it has done anything.
+
+        The real gcloud does that once in some hundred runs, most of all on a busy machine: it
+        writes nothing, not even its log file, and never ends.
+        """
+        environment = self._step_environment(step)
+        process = Run(step.arguments, environment, self.program)
+        try:
+            return process.finish()
+        except subprocess.TimeoutExpired:
+            process.kill()
+            if len(looks.logs(self.scratch.config)) > logs:
+                raise
+            print(f"started again after {DEADLINE} s without a sign of life: {step}")
+            return run(step.arguments, environment, self.program)
 
     def _prepare(self, step):
         path = os.path.join(self.scratch.config, "application_default_credentials.json")
@@ -71,80 +87,6 @@ class Player:
             more |= {"DISPLAY": ":99", "BROWSER": _BROWSER, "TORVI_DEMO_USER": step.user}
             more["TORVI_DEMO_SIGN_IN_SECONDS"] = "0"
         return self.scratch.environment(**self._environment, **more)
-
-
-def _output(text):
-    """Returns the text; of JSON only what is set, since versions of gcloud know more or less."""
-    if re.fullmatch(r"[-\w]+\.[-\w]+\.[-\w]+\n", text):
-        return "IDENTITY TOKEN"
-    try:
-        return json.dumps(_without_unset(json.loads(text)), indent=1, ensure_ascii=False)
-    except json.JSONDecodeError:
-        return text
-
-
-def _without_unset(value):
-    if isinstance(value, list):
-        return [_without_unset(element) for element in value]
-    if isinstance(value, dict):
-        kept = {key: _without_unset(element) for key, element in value.items()}
-        return {key: element for key, element in kept.items() if element not in (None, {})}
-    return value
-
-
-def _text(text, path):
-    """Returns the text without what differs from run to run."""
-    for pattern, replacement in (
-        (re.escape(path), "SCRATCH"),
-        (r"client_id=[-.\w]+", "client_id=ID"),
-        (r"state=\w+", "state=STATE"),
-        (r"code_challenge=[-\w]+", "code_challenge=CHALLENGE"),
-        (r"localhost%3A\d+", "localhost%3A8085"),
-        (r"at 0x[0-9a-f]+", "at 0x"),
-        (r"missing fields [\w, ]+", "missing fields"),
-    ):
-        text = re.sub(pattern, replacement, text)
-    return text
-
-
-def _logs(directory):
-    return [path for path in snapshot(directory) if path.startswith("logs/") and path[-1] != "/"]
-
-
-def _files(directory):
-    """Returns {path: how it looks} of everything but logs and what depends on the time only."""
-    looks = {}
-    for path, facts in snapshot(directory).items():
-        if path.startswith("logs/") or path in ("gce", ".last_survey_prompt.yaml"):
-            continue
-        looks[path] = f"mode {facts['mode']:o}\n{_content(directory, path)}" if facts else "folder"
-    return looks
-
-
-def _content(directory, path):
-    full = os.path.join(directory, path)
-    if path.endswith(".db"):
-        return _database(full)
-    with open(full, encoding="utf-8") as file:
-        text = file.read()
-    if path.endswith(".json"):
-        text = re.sub(r'"(client_id|client_secret|refresh_token)": "[^"]*"', r'"\1": "…"', text)
-    return text
-
-
-def _database(path):
-    """Returns the tables with the keys of their rows."""
-    with sqlite3.connect(f"file:{path}?mode=ro", uri=True) as database:
-        tables = database.execute("SELECT name, sql FROM sqlite_master WHERE type = 'table'")
-        return "\n".join(
-            f"{sql}: {_keys(database.execute(f'SELECT * FROM {name}'))}"
-            for name, sql in tables.fetchall()
-        )
-
-
-def _keys(rows):
-    """Returns the first column, sorted. Tokens of ADC files have the hash of a secret there."""
-    return sorted(re.sub("^[0-9a-f]{64}$", "HASH", row[0]) for row in rows)
 
 
 def _differences(real, standin):

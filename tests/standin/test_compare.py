@@ -10,6 +10,7 @@ import unittest
 
 import compare
 import demo
+import looks
 import script
 from harness import DEADLINE, Scratch
 
@@ -38,7 +39,7 @@ class CompareTest(unittest.TestCase):
         self.assertEqual(found, [("b", 2, None), ("c", None, 3)])
 
     def test_only_what_is_set_of_json_is_compared(self):
-        self.assertEqual(compare._output('{"a": {"b": null}, "c": [1]}\n'), '{\n "c": [\n  1\n ]\n}')
+        self.assertEqual(looks.output('{"a": {"b": null}, "c": [1]}\n'), '{\n "c": [\n  1\n ]\n}')
 
 
 if __name__ == "__main__":
