@@ -66,7 +66,7 @@ forty projects. Nothing in it is real, and nothing of yours is touched.
   torvictl watch &                               see what gcloud changes
   gcloud config set project x7                   the stand-in itself
 
-`TORVI_STANDIN_FAULT=offline torvictl projects` and the like show failures;
+`TORVI_STANDIN_FAULT=offline:3 torvictl projects` and the like show failures;
 {readme} lists them.
 `unset BROWSER` makes you the browser. `exit` removes this world.
 """
