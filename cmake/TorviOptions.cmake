@@ -30,3 +30,10 @@ if(TORVI_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
     add_link_options(--coverage)
 endif()
+
+# torvi_quiet_generated(TARGET): what Qt generates for a QML module does not keep our warnings.
+function(torvi_quiet_generated target)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "${CMAKE_BINARY_DIR}.*(qmlcache|qmltyperegistrations|_init).*\\.cpp$|\\.rcc/")
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+endfunction()

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+// A one-line text that is shortened when it is too long (`elide`: at the end unless set), and then
+// tells its full self in a tool tip: under the pointer, or while `revealed` (set it to the
+// visualFocus of the control that the text stands in, for the keyboard).
+StyledText {
+    id: root
+
+    property bool revealed: false
+    readonly property bool toolTipShown: toolTip.active && truncated
+
+    elide: Text.ElideRight
+    maximumLineCount: 1
+    wrapMode: Text.NoWrap
+
+    HoverHandler {
+        id: hover
+    }
+
+    Loader {
+        id: toolTip
+
+        active: (hover.hovered || root.revealed) && root.truncated && root.visible
+
+        sourceComponent: ToolTip {
+            parent: root
+            text: root.text
+            visible: true
+        }
+    }
+}

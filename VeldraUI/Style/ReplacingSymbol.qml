@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import VeldraUI.Style
+
+// A symbol that turns into another when its name changes: the old one shrinks and fades, the new
+// one grows in its place. Properties as Symbol's.
+Item {
+    id: root
+
+    property string name: ""
+    property real size: Typography.callout.pixelSize
+    property color color: Theme.colors.primary
+
+    implicitWidth: current.side
+    implicitHeight: current.side
+
+    onNameChanged: {
+        if (previous.pending !== "" && visible && name !== "") {
+            previous.name = previous.pending
+            replacement.restart()
+        }
+        previous.pending = name
+    }
+
+    Symbol {
+        id: current
+
+        anchors.centerIn: parent
+        name: root.name
+        size: root.size
+        color: root.color
+    }
+
+    Symbol {
+        id: previous
+
+        property string pending: ""
+
+        anchors.centerIn: parent
+        opacity: 0
+        visible: opacity > 0
+        size: root.size
+        color: root.color
+    }
+
+    ParallelAnimation {
+        id: replacement
+
+        NumberAnimation { target: previous; property: "opacity"; from: 1; to: 0; duration: 120 }
+        NumberAnimation { target: previous; property: "scale"; from: 1; to: 0.5; duration: 120 }
+        NumberAnimation { target: current; property: "opacity"; from: 0; to: 1; duration: 200 }
+        NumberAnimation { target: current; property: "scale"; from: 0.5; to: 1; duration: 200; easing.type: Easing.OutBack }
+    }
+}

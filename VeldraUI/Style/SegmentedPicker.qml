@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import VeldraUI.Style
+
+// Chooses one of a few texts that all stand side by side. `label` before the segments (hidden by
+// labelVisible: false, still read aloud), `model`: the texts, `currentIndex`; `small` for the small
+// control size. activated(index) is the user's choice; who binds currentIndex changes it then.
+Item {
+    id: root
+
+    property string label: ""
+    property bool labelVisible: true
+    property list<string> model
+    property int currentIndex: -1
+    property bool small: false
+
+    signal activated(int index)
+
+    implicitWidth: segments.offset + model.length * segments.widest
+    implicitHeight: segments.implicitHeight
+    opacity: enabled ? 1 : 0.5
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label
+
+    StyledText {
+        id: labelText
+
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.labelVisible && text !== ""
+        text: root.label
+        textStyle: root.small ? Typography.callout : Typography.body
+    }
+
+    Rectangle {
+        anchors.fill: segments
+        radius: root.small ? 5 : 6
+        color: Theme.colors.quaternaryFill
+    }
+
+    Row {
+        id: segments
+
+        readonly property real widest: {
+            let width = 0
+            for (let i = 0; i < repeater.count; ++i)
+                width = Math.max(width, repeater.itemAt(i).implicitWidth)
+            return width
+        }
+        readonly property real offset: labelText.visible ? labelText.implicitWidth + 8 : 0
+
+        x: offset
+        width: root.width - offset
+
+        Repeater {
+            id: repeater
+
+            model: root.model
+
+            Segment {
+                required property string modelData
+                required property int index
+
+                width: segments.width / root.model.length
+                small: root.small
+                text: modelData
+                checked: index === root.currentIndex
+                separated: index > 0 && !checked && index - 1 !== root.currentIndex
+
+                onClicked: root.activated(index)
+                onStepped: by => root.step(index, by)
+            }
+        }
+    }
+
+    function step(from: int, by: int) {
+        const to = from + by
+        if (to < 0 || to >= model.length)
+            return
+        repeater.itemAt(to).forceActiveFocus(Qt.TabFocusReason)
+        activated(to)
+    }
+}

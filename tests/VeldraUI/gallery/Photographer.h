@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QImage>
+#include <QQuickView>
+
+namespace torvi {
+
+/// Shows one gallery page and takes its picture. Items named "hover", "press" or "focus" are put in
+/// that state one after the other, and their places in the picture come from those moments.
+class Photographer final
+{
+public:
+    Photographer(const QString &page, bool dark);
+
+    /// Empty, with the reason on standard error, when the page does not load.
+    [[nodiscard]] QImage picture();
+
+private:
+    void pose(QQuickItem &item, QImage &picture);
+
+    QQuickView m_view;
+};
+
+} // namespace torvi
