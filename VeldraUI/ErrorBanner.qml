@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 
 import VeldraUI.Style
 
@@ -51,24 +52,29 @@ Rectangle {
 
             readonly property Item next: retryButton.visible ? retryButton : dismissButton
             readonly property int lines: 8
+            readonly property real lineHeight: messageText.contentHeight / messageText.lineCount
 
             objectName: "text"
             anchors.verticalCenter: parent.verticalCenter
             x: symbol.width + 8
             // Its handle stands in the gap before the next button.
             width: next.x - x
-            height: Math.min(messageText.height, lines * metrics.height)
+            contentHeight: messageText.height
+            height: Math.min(messageText.height, lines * lineHeight)
 
-            TextEdit {
+            T.TextArea {
                 id: messageText
 
                 objectName: "message"
                 width: scrollArea.width - 8
+                implicitHeight: contentHeight
                 text: root.message
                 textFormat: TextEdit.PlainText
                 wrapMode: TextEdit.Wrap
                 readOnly: true
                 selectByMouse: true
+                // A stop for the keyboard where there is something to scroll.
+                activeFocusOnTab: scrollArea.scrolls || activeFocus
                 color: Theme.colors.primary
                 selectionColor: Theme.colors.selectedText
                 selectedTextColor: Theme.colors.primary
@@ -79,10 +85,15 @@ Rectangle {
             }
         }
 
-        FontMetrics {
-            id: metrics
-
-            font: messageText.font
+        Rectangle {
+            anchors.fill: scrollArea
+            anchors.margins: -4
+            visible: messageText.activeFocus && (messageText.focusReason === Qt.TabFocusReason
+                                                 || messageText.focusReason === Qt.BacktabFocusReason)
+            radius: 4
+            color: "transparent"
+            border.width: 2
+            border.color: Theme.colors.focusRing
         }
 
         BorderedButton {

@@ -64,6 +64,8 @@ Rectangle {
 
             onClicked: {
                 field.clear()
+                // The button goes, and would take the keyboard with it.
+                field.forceActiveFocus()
                 root.edited("")
             }
         }

@@ -34,13 +34,13 @@ QColor translucent(QRgb value, int percent)
 void setUpDark(ColorRoles &roles)
 {
     roles.primary = rgb(0xf2f3f5);
-    roles.secondary = rgb(0xa9acb4);
-    roles.tertiary = rgb(0x8c9099);
+    roles.secondary = rgb(0xb4b7be);
+    roles.tertiary = rgb(0x9b9fa8);
     roles.quaternary = rgb(0x5d6069);
     roles.green = rgb(0x4cc971);
     roles.orange = rgb(0xffa348);
     roles.yellow = rgb(0xf9ce4a);
-    roles.red = rgb(0xff6b64);
+    roles.red = rgb(0xff7d76);
     roles.link = rgb(0x7fb0ff);
     roles.windowBackground = rgb(0x1e1f23);
     roles.material = white(6);
@@ -64,6 +64,7 @@ void setUpDark(ColorRoles &roles)
     roles.fieldBorder = white(18);
     roles.selectedText = translucent(0x3574e3, 70);
     roles.focusRing = rgb(0x6ea4ff);
+    roles.track = white(18);
     roles.knob = rgb(0xf5f6f8);
     roles.scrollIndicator = white(35);
 }
@@ -71,13 +72,13 @@ void setUpDark(ColorRoles &roles)
 void setUpLight(ColorRoles &roles)
 {
     roles.primary = rgb(0x1c1d20);
-    roles.secondary = rgb(0x5a5d65);
-    roles.tertiary = rgb(0x6a6d75);
+    roles.secondary = rgb(0x4b4e56);
+    roles.tertiary = rgb(0x5d6068);
     roles.quaternary = rgb(0xaeb1b8);
-    roles.green = rgb(0x15692f);
-    roles.orange = rgb(0xa84a00);
+    roles.green = rgb(0x136029);
+    roles.orange = rgb(0x8f3f00);
     roles.yellow = rgb(0x9a6a00);
-    roles.red = rgb(0xc2281d);
+    roles.red = rgb(0xa81f16);
     roles.link = rgb(0x1558c9);
     roles.windowBackground = rgb(0xf5f5f7);
     roles.material = black(4);
@@ -101,6 +102,7 @@ void setUpLight(ColorRoles &roles)
     roles.fieldBorder = black(22);
     roles.selectedText = translucent(0x1f65d6, 28);
     roles.focusRing = rgb(0x4a86e8);
+    roles.track = black(18);
     roles.knob = rgb(0xffffff);
     roles.scrollIndicator = black(38);
 }

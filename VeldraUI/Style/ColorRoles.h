@@ -53,6 +53,7 @@ class ColorRoles final : public QObject
     Q_PROPERTY(QColor fieldBorder MEMBER fieldBorder CONSTANT)
     Q_PROPERTY(QColor selectedText MEMBER selectedText CONSTANT)
     Q_PROPERTY(QColor focusRing MEMBER focusRing CONSTANT)
+    Q_PROPERTY(QColor track MEMBER track CONSTANT)
     Q_PROPERTY(QColor knob MEMBER knob CONSTANT)
     Q_PROPERTY(QColor scrollIndicator MEMBER scrollIndicator CONSTANT)
 
@@ -68,7 +69,7 @@ public:
     QColor accent, accentHovered, accentPressed, onAccent;
     QColor control, controlHovered, controlPressed, controlBorder;
     QColor hovered, pressed, field, fieldBorder, selectedText;
-    QColor focusRing, knob, scrollIndicator;
+    QColor focusRing, track, knob, scrollIndicator;
 
 private:
     ColorRoles();

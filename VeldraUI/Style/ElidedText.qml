@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-pragma ComponentBehavior: Bound
-
 import QtQuick
 
 // A one-line text that is shortened when it is too long (`elide`: at the end unless set), and then
@@ -12,7 +10,7 @@ StyledText {
     id: root
 
     property bool revealed: false
-    readonly property bool toolTipShown: toolTip.active && truncated
+    readonly property bool toolTipShown: toolTip.item ? (toolTip.item as ToolTip).visible : false
 
     elide: Text.ElideRight
     maximumLineCount: 1
@@ -26,11 +24,13 @@ StyledText {
         id: toolTip
 
         active: (hover.hovered || root.revealed) && root.truncated && root.visible
+        source: "ToolTip.qml"
 
-        sourceComponent: ToolTip {
-            parent: root
-            text: root.text
-            visible: true
+        onLoaded: {
+            const shown = item as ToolTip
+            shown.parent = root
+            shown.text = Qt.binding(() => root.text)
+            shown.visible = true
         }
     }
 }

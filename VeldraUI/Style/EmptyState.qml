@@ -30,7 +30,7 @@ Column {
         wrapMode: Text.Wrap
         text: root.title
         textStyle: Typography.title
-        weight: Font.DemiBold
+        weight: Font.Medium
     }
 
     StyledText {

@@ -11,6 +11,8 @@ ButtonBase {
     id: root
 
     padding: 0
+    // What shows itself under the pointer is what can be pressed.
+    containmentMask: background
 
     background: Rectangle {
         anchors.fill: parent

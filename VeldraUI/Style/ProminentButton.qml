@@ -21,8 +21,7 @@ ButtonBase {
     background: Rectangle {
         implicitHeight: root.small ? 22 : 26
         radius: root.small ? 5 : 6
-        opacity: root.enabled ? 1 : 0.5
-        color: !root.enabled ? Theme.colors.control
+        color: !root.enabled ? Theme.colors.quaternaryFill
                              : root.down ? Theme.colors.accentPressed
                                          : root.hovered ? Theme.colors.accentHovered : Theme.colors.accent
 

@@ -30,6 +30,8 @@ T.TextField {
     font.pixelSize: textStyle.pixelSize
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
+    // Shows its beginning until someone writes in it.
+    autoScroll: activeFocus
     inputMethodHints: Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
 
     background: Rectangle {
@@ -37,20 +39,20 @@ T.TextField {
         radius: 5
         color: Theme.colors.field
         border.color: root.activeFocus ? Theme.colors.accent : Theme.colors.fieldBorder
-
-        Rectangle {
-            anchors.fill: parent
-            anchors.margins: -2
-            visible: root.focusedByKeyboard
-            radius: 7
-            color: "transparent"
-            border.width: 2
-            border.color: Theme.colors.focusRing
-        }
     }
 
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -2
+        visible: root.focusedByKeyboard
+        radius: 7
+        color: "transparent"
+        border.width: 2
+        border.color: Theme.colors.focusRing
+    }
 
     Text {
         id: placeholder

@@ -5,22 +5,72 @@ import QtQuick
 import QtQuick.Templates as T
 
 // Scrolls one child that is higher than the area: `ScrollArea { Column { width: parent.width } }`.
-// The wheel, the handle and touch scroll it; what the keyboard reaches is brought into view.
-// reveal(item) does that for any item in it.
+// The wheel, the handle, touch, and the keys that nothing inside takes (arrows, Page Up and Down,
+// Home, End) scroll it; what the Tab key reaches is brought into view. reveal(item) does that for
+// any item in it. `scrolls`: there is something to scroll.
 Flickable {
     id: root
 
+    readonly property bool scrolls: contentHeight > height
     readonly property Item focused: Window.activeFocusItem
+    readonly property real line: 40
 
     contentWidth: width
     contentHeight: contentItem.childrenRect.height
     clip: true
-    boundsBehavior: Flickable.StopAtBounds
-    flickableDirection: Flickable.VerticalFlick
+    // A press with the mouse belongs to what is pressed, also when the mouse moves.
+    interactive: false
 
     onFocusedChanged: revealFocused()
+    onContentHeightChanged: scrollBy(0)
+    onHeightChanged: scrollBy(0)
+
+    Keys.onPressed: event => {
+        const distance = distanceOf(event.key)
+        event.accepted = scrolls && distance !== 0 && event.modifiers === Qt.NoModifier
+        if (event.accepted)
+            scrollBy(distance)
+    }
 
     T.ScrollBar.vertical: ScrollIndicator {}
+
+    WheelHandler {
+        enabled: root.scrolls
+        target: null
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        onWheel: event => root.scrollBy(event.pixelDelta.y !== 0 ? -event.pixelDelta.y
+                                                                 : -event.angleDelta.y / 120 * 1.5 * root.line)
+    }
+
+    DragHandler {
+        property real before: 0
+
+        enabled: root.scrolls
+        target: null
+        acceptedDevices: PointerDevice.TouchScreen
+        xAxis.enabled: false
+        onActiveChanged: before = 0
+        onActiveTranslationChanged: {
+            root.scrollBy(before - activeTranslation.y)
+            before = activeTranslation.y
+        }
+    }
+
+    function distanceOf(key: int): real {
+        switch (key) {
+        case Qt.Key_Up: return -line
+        case Qt.Key_Down: return line
+        case Qt.Key_PageUp: return line - height
+        case Qt.Key_PageDown: return height - line
+        case Qt.Key_Home: return -contentHeight
+        case Qt.Key_End: return contentHeight
+        }
+        return 0
+    }
+
+    function scrollBy(distance: real) {
+        contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance))
+    }
 
     function revealFocused() {
         const control = focused as T.Control
@@ -38,10 +88,9 @@ Flickable {
         const margin = 8
         const top = item.mapToItem(contentItem, 0, 0).y - margin
         const bottom = top + item.height + 2 * margin
-        const lowest = Math.max(0, contentHeight - height)
         if (top < contentY)
-            contentY = Math.max(0, top)
+            scrollBy(top - contentY)
         else if (bottom > contentY + height)
-            contentY = Math.min(lowest, bottom - height)
+            scrollBy(bottom - contentY - height)
     }
 }

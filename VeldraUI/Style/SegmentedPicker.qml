@@ -49,10 +49,12 @@ Item {
         readonly property real widest: {
             let width = 0
             for (let i = 0; i < repeater.count; ++i)
-                width = Math.max(width, repeater.itemAt(i).implicitWidth)
+                width = Math.max(width, Math.ceil(repeater.itemAt(i).implicitWidth))
             return width
         }
-        readonly property real offset: labelText.visible ? labelText.implicitWidth + 8 : 0
+        readonly property real offset: labelText.visible ? Math.ceil(labelText.implicitWidth) + 8 : 0
+
+        readonly property real share: width / root.model.length
 
         x: offset
         width: root.width - offset
@@ -66,7 +68,7 @@ Item {
                 required property string modelData
                 required property int index
 
-                width: segments.width / root.model.length
+                width: Math.round((index + 1) * segments.share) - Math.round(index * segments.share)
                 small: root.small
                 text: modelData
                 checked: index === root.currentIndex

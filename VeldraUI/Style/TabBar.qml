@@ -15,6 +15,8 @@ T.TabBar {
     implicitHeight: contentHeight + topPadding + bottomPadding
     spacing: 2
     padding: 6
+    // In the middle of the window.
+    leftPadding: Math.max(padding, Math.round((width - contentWidth) / 2))
 
     contentItem: ListView {
         implicitWidth: contentWidth

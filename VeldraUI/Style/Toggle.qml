@@ -29,22 +29,24 @@ T.Switch {
         anchors.verticalCenter: parent ? parent.verticalCenter : undefined
         radius: height / 2
         opacity: root.enabled ? 1 : 0.5
-        color: root.checked ? (root.down ? Theme.colors.accentPressed
-                                         : root.hovered ? Theme.colors.accentHovered : Theme.colors.accent)
-                            : root.down ? Theme.colors.controlPressed
-                                        : root.hovered ? Theme.colors.controlHovered : Theme.colors.control
-        border.width: root.checked ? 0 : 1
-        border.color: Theme.colors.fieldBorder
+        color: !root.checked ? Theme.colors.track
+                             : root.down ? Theme.colors.accentPressed
+                                         : root.hovered ? Theme.colors.accentHovered : Theme.colors.accent
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            visible: !root.checked && (root.down || root.hovered)
+            color: root.down ? Theme.colors.pressed : Theme.colors.hovered
+        }
 
         Rectangle {
             x: root.checked ? parent.width - width - 2 : 2
-            anchors.verticalCenter: parent.verticalCenter
+            y: 2
             width: 16
             height: 16
             radius: 8
             color: Theme.colors.knob
-            border.color: Theme.colors.controlBorder
-            border.width: root.checked ? 0 : 1
         }
 
         FocusRing {

@@ -40,17 +40,27 @@ QImage Photographer::picture()
         return {};
     }
     QTest::mouseMove(&m_view, kNowhere);
-    QImage picture = m_view.grabWindow();
-    for (QQuickItem *item : m_view.rootObject()->findChildren<QQuickItem *>()) {
-        pose(*item, picture);
+    if (auto *late = m_view.rootObject()->findChild<QObject *>(u"ready"_s)) {
+        Q_UNUSED(QTest::qWaitFor([late] { return late->property("value").toBool(); }));
     }
+    QImage picture = m_view.grabWindow();
+    picture.setDevicePixelRatio(m_view.effectiveDevicePixelRatio());
+    pose(*m_view.rootObject(), picture);
     return picture;
 }
 
 void Photographer::pose(QQuickItem &item, QImage &picture)
 {
+    poseOne(item, picture);
+    for (QQuickItem *child : item.childItems()) {
+        pose(*child, picture);
+    }
+}
+
+void Photographer::poseOne(QQuickItem &item, QImage &picture)
+{
     const QString state = item.objectName();
-    const QRectF bounds = item.mapRectToScene(item.boundingRect());
+    const QRectF bounds = item.mapRectToScene({ 0, 0, item.width(), item.height() });
     const QPoint centre = bounds.center().toPoint();
     if (state == u"focus") {
         item.forceActiveFocus(Qt::TabFocusReason);

@@ -20,6 +20,7 @@ public:
 
 private:
     void pose(QQuickItem &item, QImage &picture);
+    void poseOne(QQuickItem &item, QImage &picture);
 
     QQuickView m_view;
 };
