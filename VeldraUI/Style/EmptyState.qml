@@ -17,6 +17,7 @@ Column {
     spacing: 6
 
     Symbol {
+        objectName: "symbol"
         anchors.horizontalCenter: parent.horizontalCenter
         visible: name !== ""
         name: root.symbolName
@@ -25,6 +26,7 @@ Column {
     }
 
     StyledText {
+        objectName: "title"
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
@@ -34,6 +36,7 @@ Column {
     }
 
     StyledText {
+        objectName: "description"
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap

@@ -91,8 +91,12 @@ T.ComboBox {
         }
     }
 
-    Keys.onReturnPressed: popup.open()
-    Keys.onEnterPressed: popup.open()
+    // At the release, for that is where the open menu takes Return as the choice.
+    Keys.onReleased: event => {
+        event.accepted = !popup.visible && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
+        if (event.accepted)
+            popup.open()
+    }
 
     Accessible.role: Accessible.ComboBox
     Accessible.name: label

@@ -25,6 +25,7 @@ Item {
 
         property int turn: 0
 
+        objectName: "symbol"
         width: root.implicitWidth
         height: root.implicitHeight
         sourceSize.width: width

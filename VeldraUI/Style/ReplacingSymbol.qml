@@ -30,6 +30,7 @@ Item {
     Symbol {
         id: current
 
+        objectName: "current"
         anchors.centerIn: parent
         name: root.name
         size: root.size
@@ -41,6 +42,7 @@ Item {
 
         property string pending: ""
 
+        objectName: "previous"
         anchors.centerIn: parent
         opacity: 0
         visible: opacity > 0
@@ -51,6 +53,7 @@ Item {
     ParallelAnimation {
         id: replacement
 
+        objectName: "replacing"
         NumberAnimation { target: previous; property: "opacity"; from: 1; to: 0; duration: 120 }
         NumberAnimation { target: previous; property: "scale"; from: 1; to: 0.5; duration: 120 }
         NumberAnimation { target: current; property: "opacity"; from: 0; to: 1; duration: 200 }

@@ -57,6 +57,7 @@ T.TextField {
     Text {
         id: placeholder
 
+        objectName: "placeholder"
         anchors.fill: parent
         anchors.leftMargin: root.leftPadding
         anchors.rightMargin: root.rightPadding

@@ -12,7 +12,10 @@ Flickable {
     id: root
 
     readonly property bool scrolls: contentHeight > height
-    readonly property Item focused: Window.activeFocusItem
+    readonly property T.Control focusedControl: Window.activeFocusItem as T.Control
+    readonly property T.TextField focusedField: Window.activeFocusItem as T.TextField
+    readonly property Item reached: (focusedControl && focusedControl.visualFocus) || focusedField
+                                    ? Window.activeFocusItem : null
     readonly property real line: 40
 
     contentWidth: width
@@ -21,7 +24,7 @@ Flickable {
     // A press with the mouse belongs to what is pressed, also when the mouse moves.
     interactive: false
 
-    onFocusedChanged: revealFocused()
+    onReachedChanged: if (reached) reveal(reached)
     onContentHeightChanged: scrollBy(0)
     onHeightChanged: scrollBy(0)
 
@@ -32,7 +35,9 @@ Flickable {
             scrollBy(distance)
     }
 
-    T.ScrollBar.vertical: ScrollIndicator {}
+    T.ScrollBar.vertical: ScrollIndicator {
+        objectName: "scrollIndicator"
+    }
 
     WheelHandler {
         enabled: root.scrolls
@@ -70,13 +75,6 @@ Flickable {
 
     function scrollBy(distance: real) {
         contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance))
-    }
-
-    function revealFocused() {
-        const control = focused as T.Control
-        const field = focused as T.TextField
-        if ((control && control.visualFocus) || (field && field.activeFocus))
-            reveal(focused)
     }
 
     function reveal(item: Item) {

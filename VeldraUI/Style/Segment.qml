@@ -20,7 +20,7 @@ T.AbstractButton {
     horizontalPadding: small ? 8 : 12
 
     // One stop of the Tab key for the whole picker: the chosen segment.
-    focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: checked || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
 
     contentItem: Text {

@@ -12,6 +12,7 @@ T.Popup {
     id: root
 
     property string title: ""
+    property Item focusedBefore: null
 
     parent: T.Overlay.overlay
     anchors.centerIn: parent
@@ -22,6 +23,13 @@ T.Popup {
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape
+
+    onAboutToShow: focusedBefore = parent.Window.activeFocusItem
+    onClosed: {
+        if (focusedBefore)
+            focusedBefore.forceActiveFocus(Qt.PopupFocusReason)
+        focusedBefore = null
+    }
 
     contentItem: Item {
         implicitWidth: childrenRect.width

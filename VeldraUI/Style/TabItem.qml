@@ -17,6 +17,9 @@ T.TabButton {
     implicitHeight: 44
     horizontalPadding: 8
     verticalPadding: 4
+
+    // One stop of the Tab key for the whole bar: the chosen tab.
+    focusPolicy: checked || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
 
     contentItem: TabLabel {
@@ -37,10 +40,19 @@ T.TabButton {
         }
     }
 
-    Keys.onReturnPressed: toggle()
+    Keys.onLeftPressed: choose(T.TabBar.index - 1)
+    Keys.onRightPressed: choose(T.TabBar.index + 1)
 
     Accessible.role: Accessible.PageTab
     Accessible.name: text
     Accessible.selected: checked
     Accessible.onPressAction: if (enabled) toggle()
+
+    function choose(index: int) {
+        const bar = T.TabBar.tabBar
+        if (!bar || index < 0 || index >= bar.count)
+            return
+        bar.setCurrentIndex(index)
+        bar.currentItem.forceActiveFocus(Qt.TabFocusReason)
+    }
 }
