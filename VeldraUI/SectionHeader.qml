@@ -11,33 +11,32 @@ Item {
 
     property string title: ""
     property string icon: ""
+    readonly property real lineHeight: Math.max(icon === "" ? 0 : symbol.height, titleText.height)
 
-    implicitWidth: row.width + 8
-    implicitHeight: row.height + 10
+    implicitWidth: titleText.x + titleText.width + 4
+    implicitHeight: 8 + lineHeight + 2
 
-    Row {
-        id: row
+    Symbol {
+        id: symbol
 
+        objectName: "symbol"
         x: 4
-        y: 8
-        spacing: 4
+        y: 8 + (root.lineHeight - height) / 2
+        visible: root.icon !== ""
+        name: root.icon
+        color: Theme.colors.secondary
+    }
 
-        Symbol {
-            objectName: "symbol"
-            anchors.verticalCenter: parent.verticalCenter
-            visible: root.icon !== ""
-            name: root.icon
-            color: Theme.colors.secondary
-        }
+    StyledText {
+        id: titleText
 
-        StyledText {
-            objectName: "title"
-            anchors.verticalCenter: parent.verticalCenter
-            text: root.title.toUpperCase()
-            textStyle: Typography.callout
-            weight: Font.DemiBold
-            color: Theme.colors.secondary
-            Accessible.role: Accessible.Heading
-        }
+        objectName: "title"
+        x: root.icon === "" ? 4 : symbol.x + symbol.width + 4
+        y: 8 + (root.lineHeight - height) / 2
+        text: root.title.toUpperCase()
+        textStyle: Typography.callout
+        weight: Font.DemiBold
+        color: Theme.colors.secondary
+        Accessible.role: Accessible.Heading
     }
 }

@@ -12,9 +12,10 @@ Item {
     property string text: ""
     property color color: Theme.colors.green
     property string icon: ""
+    readonly property real lineHeight: Math.max(icon === "" ? 0 : symbol.height, label.height)
 
-    implicitWidth: row.width + 12
-    implicitHeight: row.height + 4
+    implicitWidth: label.x + label.width + 6
+    implicitHeight: 2 + lineHeight + 2
 
     Rectangle {
         objectName: "tint"
@@ -23,29 +24,27 @@ Item {
         color: Qt.alpha(root.color, 0.15)
     }
 
-    Row {
-        id: row
+    Symbol {
+        id: symbol
 
+        objectName: "symbol"
         x: 6
-        y: 2
-        spacing: 4
+        y: 2 + (root.lineHeight - height) / 2
+        visible: root.icon !== ""
+        name: root.icon
+        size: Typography.caption.pixelSize
+        color: root.color
+    }
 
-        Symbol {
-            objectName: "symbol"
-            anchors.verticalCenter: parent.verticalCenter
-            visible: root.icon !== ""
-            name: root.icon
-            size: Typography.caption.pixelSize
-            color: root.color
-        }
+    StyledText {
+        id: label
 
-        StyledText {
-            objectName: "text"
-            anchors.verticalCenter: parent.verticalCenter
-            text: root.text
-            textStyle: Typography.callout
-            weight: Font.Medium
-            color: root.color
-        }
+        objectName: "text"
+        x: root.icon === "" ? 6 : symbol.x + symbol.width + 4
+        y: 2 + (root.lineHeight - height) / 2
+        text: root.text
+        textStyle: Typography.callout
+        weight: Font.Medium
+        color: root.color
     }
 }

@@ -16,7 +16,8 @@ namespace {
 QColor on(const QColor &color, const QColor &ground)
 {
     const float alpha = color.alphaF();
-    const auto mix = [alpha](float above, float below) { return above * alpha + below * (1 - alpha); };
+    const auto mix
+        = [alpha](float above, float below) { return above * alpha + below * (1 - alpha); };
     return QColor::fromRgbF(mix(color.redF(), ground.redF()), mix(color.greenF(), ground.greenF()),
                             mix(color.blueF(), ground.blueF()));
 }
@@ -75,7 +76,8 @@ TEST_P(ColorRolesTest, BadgesAreReadableOnTheirOwnTint)
 {
     const QColor row = on(tint(m_roles.accent, 0.08F), m_roles.windowBackground);
     for (const QColor &color : { m_roles.green, m_roles.orange, m_roles.red }) {
-        EXPECT_GE(contrast(color, on(tint(color, 0.15F), row)), kText) << color.name().toStdString();
+        EXPECT_GE(contrast(color, on(tint(color, 0.15F), row)), kText)
+            << color.name().toStdString();
     }
 }
 

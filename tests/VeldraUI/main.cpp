@@ -11,7 +11,8 @@ class Setup : public QObject
     Q_OBJECT
 
 public Q_SLOTS:
-    void qmlEngineAvailable(QQmlEngine *engine) // NOLINT(readability-convert-member-functions-to-static)
+    void
+    qmlEngineAvailable(QQmlEngine *engine) // NOLINT(readability-convert-member-functions-to-static)
     {
         engine->addImportPath(u"qrc:/qt/qml"_s);
     }

@@ -22,6 +22,7 @@ const QPoint kNowhere{ 1, 1 };
 
 Photographer::Photographer(const QString &page, bool dark)
 {
+    QObject::connect(m_view.engine(), &QQmlEngine::warnings, &m_view, [this] { m_warned = true; });
     m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
     m_view.setSource(QUrl::fromLocalFile(page));
     if (m_view.status() == QQuickView::Ready) {
@@ -40,13 +41,19 @@ QImage Photographer::picture()
         return {};
     }
     QTest::mouseMove(&m_view, kNowhere);
-    if (auto *late = m_view.rootObject()->findChild<QObject *>(u"ready"_s)) {
-        Q_UNUSED(QTest::qWaitFor([late] { return late->property("value").toBool(); }));
+    if (!isReady()) {
+        return {};
     }
     QImage picture = m_view.grabWindow();
     picture.setDevicePixelRatio(m_view.effectiveDevicePixelRatio());
     pose(*m_view.rootObject(), picture);
-    return picture;
+    return m_warned ? QImage() : picture;
+}
+
+bool Photographer::isReady()
+{
+    const auto *late = m_view.rootObject()->findChild<QObject *>(u"ready"_s);
+    return late == nullptr || QTest::qWaitFor([late] { return late->property("value").toBool(); });
 }
 
 void Photographer::pose(QQuickItem &item, QImage &picture)
@@ -82,7 +89,8 @@ void Photographer::poseOne(QQuickItem &item, QImage &picture)
 
     const qreal scale = picture.devicePixelRatio();
     const QRectF place = bounds.adjusted(-5, -5, 5, 5);
-    QPainter(&picture).drawImage(place, moment, QRectF(place.topLeft() * scale, place.size() * scale));
+    QPainter(&picture).drawImage(place, moment,
+                                 QRectF(place.topLeft() * scale, place.size() * scale));
 }
 
 } // namespace torvi

@@ -15,14 +15,17 @@ class Photographer final
 public:
     Photographer(const QString &page, bool dark);
 
-    /// Empty, with the reason on standard error, when the page does not load.
+    /// Empty, with the reason on standard error, when the page does not load or QML warns.
     [[nodiscard]] QImage picture();
 
 private:
+    /// Waits until the page's object named "ready", if it has one, says so in its `value`.
+    bool isReady();
     void pose(QQuickItem &item, QImage &picture);
     void poseOne(QQuickItem &item, QImage &picture);
 
     QQuickView m_view;
+    bool m_warned = false;
 };
 
 } // namespace torvi

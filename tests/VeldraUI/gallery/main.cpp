@@ -17,9 +17,9 @@ namespace {
 bool take(const QString &page, bool dark, const QDir &folder)
 {
     const QImage picture = torvi::Photographer(page, dark).picture();
-    const QString name = u"%1-%2@%3x.png"_s.arg(QFileInfo(page).baseName(),
-                                                dark ? u"dark"_s : u"light"_s,
-                                                QString::number(picture.devicePixelRatio()));
+    const QString name
+        = u"%1-%2@%3x.png"_s.arg(QFileInfo(page).baseName(), dark ? u"dark"_s : u"light"_s,
+                                 QString::number(picture.devicePixelRatio()));
     return !picture.isNull() && picture.save(folder.filePath(name));
 }
 
