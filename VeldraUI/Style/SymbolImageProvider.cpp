@@ -39,7 +39,8 @@ QImage SymbolImageProvider::requestImage(const QString &id, QSize *size, const Q
     if (size != nullptr) {
         *size = pixels;
     }
-    return image;
+    // A copy, for a picture keeps what it was painted with, which is several times its own size.
+    return image.copy();
 }
 
 } // namespace torvi
