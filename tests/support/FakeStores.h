@@ -23,11 +23,13 @@ public:
     void pin(const QString &projectId) override
     {
         ids.insert(projectId);
+        Q_EMIT changed();
     }
 
     void unpin(const QString &projectId) override
     {
         ids.remove(projectId);
+        Q_EMIT changed();
     }
 
     [[nodiscard]] QSet<QString> allPinned() const override
@@ -45,6 +47,7 @@ public:
     {
         ids.removeAll(projectId);
         ids.prepend(projectId);
+        Q_EMIT changed();
     }
 
     [[nodiscard]] QStringList recentProjectIds() const override
@@ -66,12 +69,14 @@ public:
     void addServiceAccount(const ServiceAccount &account) override
     {
         accounts[account.projectId].append(account);
+        Q_EMIT changed();
     }
 
     void removeServiceAccount(const QString &email, const QString &fromProject) override
     {
         accounts[fromProject].removeIf(
             [&email](const ServiceAccount &account) { return account.email == email; });
+        Q_EMIT changed();
     }
 
     [[nodiscard]] AccountsByProject allServiceAccounts() const override

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "VeldraUI/ADCStatus.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace torvi {
+
+ADCStatus::ADCStatus(ADCState state)
+    : m_state(std::move(state))
+{
+}
+
+bool ADCStatus::isConfigured() const
+{
+    return m_state.type != ADCType::none;
+}
+
+QString ADCStatus::summary() const
+{
+    switch (m_state.type) {
+    case ADCType::userCredentials:
+        return u"User credentials"_s;
+    case ADCType::serviceAccountKey:
+        return u"Service account key"_s;
+    case ADCType::impersonatedServiceAccount:
+        return u"Impersonated SA"_s;
+    case ADCType::none:
+        return u"Not configured"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+QString ADCStatus::description() const
+{
+    switch (m_state.type) {
+    case ADCType::userCredentials:
+        return u"User credentials"_s;
+    case ADCType::serviceAccountKey:
+        return u"Service account key"_s;
+    case ADCType::impersonatedServiceAccount:
+        return u"Impersonated service account"_s;
+    case ADCType::none:
+        return u"Not configured"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+QString ADCStatus::symbol() const
+{
+    switch (m_state.type) {
+    case ADCType::userCredentials:
+        return u"person.badge.key"_s;
+    case ADCType::serviceAccountKey:
+        return u"key.fill"_s;
+    case ADCType::impersonatedServiceAccount:
+        return u"bolt.badge.a"_s;
+    case ADCType::none:
+        return u"key"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+bool ADCStatus::hasQuotaProject() const
+{
+    return m_state.quotaProject.has_value();
+}
+
+QString ADCStatus::quotaProject() const
+{
+    return m_state.quotaProject.value_or(QString());
+}
+
+bool ADCStatus::isImpersonating() const
+{
+    return m_state.type == ADCType::impersonatedServiceAccount && m_state.clientEmail.has_value();
+}
+
+QString ADCStatus::impersonatedEmail() const
+{
+    return isImpersonating() ? *m_state.clientEmail : QString();
+}
+
+} // namespace torvi
