@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "VeldraUI/RowLayout.h"
+
+#include <algorithm>
+#include <ranges>
+#include <utility>
+
+namespace torvi {
+
+RowLayout::RowLayout(int count, double rowHeight, double spacing, std::vector<HigherRow> higherRows)
+    : m_count(count)
+    , m_pitch(rowHeight + spacing)
+    , m_spacing(spacing)
+    , m_higherRows(std::move(higherRows))
+{
+}
+
+double RowLayout::top(int row) const
+{
+    double top = row * m_pitch;
+    for (const HigherRow &higher : m_higherRows) {
+        if (higher.row >= row) {
+            break;
+        }
+        top += higher.extra;
+    }
+    return top;
+}
+
+double RowLayout::height() const
+{
+    return m_count == 0 ? 0 : top(m_count) - m_spacing;
+}
+
+int RowLayout::rowAt(double y) const
+{
+    const auto rows = std::views::iota(0, m_count);
+    const auto below = std::ranges::upper_bound(rows, y, {}, [this](int row) { return top(row); });
+    return std::max(0, static_cast<int>(below - rows.begin()) - 1);
+}
+
+} // namespace torvi
