@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
+#include "GCloudCLI/Signals.h"
 #include "torvictl/CommandLine.h"
-#include "torvictl/Signals.h"
 #include "torvictl/StandardErrorAuthHandler.h"
 #include "torvictl/Terminal.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "torvictl/Signals.h"
+#include "GCloudCLI/Signals.h"
 
 #include <csignal>
 #include <sys/signalfd.h>
@@ -19,7 +19,7 @@ bool isIgnored(int signal)
     return sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
-int blockedAsDescriptor()
+sigset_t endingSignals()
 {
     sigset_t signals;
     sigemptyset(&signals);
@@ -28,18 +28,30 @@ int blockedAsDescriptor()
     if (!isIgnored(SIGHUP)) {
         sigaddset(&signals, SIGHUP);
     }
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    return signals;
+}
+
+int blockedAsDescriptor()
+{
+    Signals::block();
+    const sigset_t signals = endingSignals();
     return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
 } // namespace
+
+void Signals::block()
+{
+    const sigset_t signals = endingSignals();
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+}
 
 Signals::Signals(std::function<void(int)> handler)
     : m_handler(std::move(handler))
     , m_descriptor(blockedAsDescriptor())
     , m_notifier(m_descriptor, QSocketNotifier::Read)
 {
-    connect(&m_notifier, &QSocketNotifier::activated, this, &Signals::takeOne);
+    QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_notifier, [this] { takeOne(); });
 }
 
 Signals::~Signals()
