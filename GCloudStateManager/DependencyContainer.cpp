@@ -35,6 +35,17 @@ DependencyContainer::DependencyContainer(std::shared_ptr<BrowserAuthHandler> bro
         std::make_shared<ServiceAccountStore>(preferences), m_settingsStore);
 }
 
+DependencyContainer::DependencyContainer(std::shared_ptr<SettingsStoring> settingsStore,
+                                         std::shared_ptr<const GCloudPathResolving> pathResolver,
+                                         std::shared_ptr<FileWatching> fileWatcher,
+                                         std::unique_ptr<AuthStateManager> stateManager)
+    : m_settingsStore(std::move(settingsStore))
+    , m_pathResolver(std::move(pathResolver))
+    , m_fileWatcher(std::move(fileWatcher))
+    , m_stateManager(std::move(stateManager))
+{
+}
+
 DependencyContainer::~DependencyContainer() = default;
 
 AuthStateManager &DependencyContainer::stateManager() const

@@ -21,6 +21,11 @@ class DependencyContainer final
 public:
     /// `browserAuthHandler` is told the address of each browser sign-in.
     explicit DependencyContainer(std::shared_ptr<BrowserAuthHandler> browserAuthHandler);
+    /// A graph of parts that are there already, for tests.
+    DependencyContainer(std::shared_ptr<SettingsStoring> settingsStore,
+                        std::shared_ptr<const GCloudPathResolving> pathResolver,
+                        std::shared_ptr<FileWatching> fileWatcher,
+                        std::unique_ptr<AuthStateManager> stateManager);
     ~DependencyContainer();
     Q_DISABLE_COPY_MOVE(DependencyContainer)
 
