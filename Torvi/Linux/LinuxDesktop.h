@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Torvi/Desktop.h"
+#include "Torvi/Linux/GlobalEventMonitor.h"
+#include "Torvi/Linux/TaskListPolicy.h"
+#include "Torvi/QuickViewFactory.h"
+
+#include <QDBusConnection>
+
+namespace torvi {
+
+/// X11 and Wayland desktops, as freedesktop.org and the X Window System have them.
+class LinuxDesktop final : public Desktop
+{
+public:
+    using Say = std::function<void(const QString &)>;
+
+    /// `connection` is the session bus. `say` gets what the user should know about the desktop.
+    LinuxDesktop(QDBusConnection connection, Say say);
+
+    [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
+    [[nodiscard]] GlobalEventMonitoring &globalEvents() override;
+    [[nodiscard]] ActivationPolicySwitching &activationPolicy() override;
+    [[nodiscard]] ViewFactory &views() override;
+
+private:
+    QDBusConnection m_connection;
+    Say m_say;
+    GlobalEventMonitor m_globalEvents;
+    TaskListPolicy m_activationPolicy;
+    QuickViewFactory m_views;
+};
+
+} // namespace torvi

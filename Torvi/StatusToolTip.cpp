@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "Torvi/StatusToolTip.h"
+
+using namespace Qt::StringLiterals;
+
+namespace torvi {
+
+namespace {
+
+QString adcLabel(ADCType type)
+{
+    switch (type) {
+    case ADCType::userCredentials:
+        return u"User credentials"_s;
+    case ADCType::serviceAccountKey:
+        return u"Service account key"_s;
+    case ADCType::impersonatedServiceAccount:
+        return u"Impersonated SA"_s;
+    case ADCType::none:
+        return u"Not configured"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+template <typename Record>
+QString textOf(const std::optional<Record> &record, QString Record::*field)
+{
+    return record ? (*record).*field : u"None"_s;
+}
+
+QString textFor(const AuthContext &context)
+{
+    QStringList lines{
+        u"Project: "_s + textOf(context.activeProject, &Project::id),
+        u"Account: "_s + textOf(context.activeAccount, &Account::email),
+        u"Configuration: "_s + textOf(context.activeConfiguration, &Configuration::name),
+    };
+    if (context.impersonatedServiceAccount) {
+        lines.append(u"Impersonating: "_s + context.impersonatedServiceAccount->email);
+    }
+    lines.append(u"ADC: "_s + adcLabel(context.adcState.type));
+    return lines.join(u'\n');
+}
+
+} // namespace
+
+StatusToolTip::StatusToolTip(StatusItem &statusItem, const AuthStateManager &stateManager)
+    : m_statusItem(statusItem)
+    , m_stateManager(stateManager)
+{
+    connect(&stateManager, &AuthStateManager::currentContextChanged, this, &StatusToolTip::update);
+    update();
+}
+
+void StatusToolTip::update()
+{
+    // Some panels show the first line alone: it has to say the most.
+    const AuthContext &context = m_stateManager.currentContext();
+    const QString title
+        = context.activeProject ? u"Torvi – "_s + context.activeProject->id : u"Torvi"_s;
+    m_statusItem.setToolTip(title, textFor(context));
+}
+
+} // namespace torvi
