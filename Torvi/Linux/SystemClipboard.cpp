@@ -3,6 +3,8 @@
 
 #include "Torvi/Linux/SystemClipboard.h"
 
+#include "Torvi/Linux/UnfocusedCopy.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -14,6 +16,9 @@ namespace torvi {
 void SystemClipboard::setText(const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
+    if (UnfocusedCopy::isNeeded()) {
+        UnfocusedCopy::copy(text);
+    }
 }
 
 void SystemClipboard::setSecret(const QString &secret)

@@ -7,7 +7,8 @@
 
 namespace torvi {
 
-/// The session's clipboard, by way of the toolkit.
+/// The session's clipboard, by way of the toolkit and, for a text while no window of ours has the
+/// keyboard, of what Wayland desktops offer instead.
 class SystemClipboard final : public Clipboard
 {
 public:
