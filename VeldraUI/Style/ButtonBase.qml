@@ -9,12 +9,14 @@ import QtQuick.Templates as T
 import VeldraUI.Style
 
 // What all buttons share: symbol and text, Return as well as Space, and the press that assistive
-// technology asks for. Signal: clicked().
+// technology asks for. `help` is told in a tool tip, and is the name of a button without text.
+// Signal: clicked().
 T.Button {
     id: root
 
     // The symbol before the text; empty shows none.
     property string symbolName: ""
+    property string help: ""
     property font textStyle: Typography.callout
     property int weight: textStyle.weight
     property color foreground: Theme.colors.primary
@@ -39,8 +41,15 @@ T.Button {
     Keys.onEnterPressed: event => pressByKey(event)
 
     Accessible.role: Accessible.Button
-    Accessible.name: text
+    Accessible.name: text !== "" ? text : help
+    Accessible.description: help
     Accessible.onPressAction: if (enabled) clicked()
+
+    HelpTip {
+        objectName: "helpTip"
+        help: root.help
+        shown: root.hovered || root.visualFocus
+    }
 
     function pressByKey(event: KeyEvent) {
         if (!event.isAutoRepeat)

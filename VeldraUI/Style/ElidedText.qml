@@ -10,7 +10,7 @@ StyledText {
     id: root
 
     property bool revealed: false
-    readonly property bool toolTipShown: toolTip.item ? (toolTip.item as ToolTip).visible : false
+    readonly property bool toolTipShown: toolTip.visibleNow
 
     elide: Text.ElideRight
     maximumLineCount: 1
@@ -20,17 +20,10 @@ StyledText {
         id: hover
     }
 
-    Loader {
+    HelpTip {
         id: toolTip
 
-        active: (hover.hovered || root.revealed) && root.truncated && root.visible
-        source: "ToolTip.qml"
-
-        onLoaded: {
-            const shown = item as ToolTip
-            shown.parent = root
-            shown.text = Qt.binding(() => root.text)
-            shown.visible = true
-        }
+        help: root.text
+        shown: (hover.hovered || root.revealed) && root.truncated
     }
 }

@@ -25,7 +25,7 @@ Item {
         PlainButton { id: plain; text: "Quit"; symbolName: "power"; onClicked: window.presses += 1 }
         BorderedButton { id: bordered; text: "Clear"; onClicked: window.presses += 1 }
         BorderedButton { id: small; text: "Clear"; small: true; onClicked: window.presses += 1 }
-        BorderedButton { id: trash; symbolName: "trash"; destructive: true; small: true }
+        BorderedButton { id: trash; symbolName: "trash"; destructive: true; small: true; help: "Delete" }
         ProminentButton { id: prominent; text: "Create"; onClicked: window.presses += 1 }
         LinkButton { id: link; text: "torvi.example"; onClicked: window.presses += 1 }
     }
@@ -120,6 +120,27 @@ Item {
             compare(small.height, 22)
             compare(bordered.height, 26)
             compare(prominent.height, 26)
+        }
+
+        function test_aButtonWithoutTextIsNamedByItsHelp() {
+            compare(trash.Accessible.name, "Delete")
+            compare(bordered.Accessible.name, "Clear")
+        }
+
+        function test_tellsItsHelpUnderThePointerAndToTheKeyboard() {
+            const tip = findChild(trash, "helpTip")
+            mouseMove(trash, 5, 5)
+            tryVerify(() => tip.visibleNow)
+            mouseMove(window, 399, 299)
+            tryVerify(() => !tip.visibleNow)
+            trash.forceActiveFocus(Qt.TabFocusReason)
+            tryVerify(() => tip.visibleNow)
+        }
+
+        function test_aButtonWithoutHelpHasNoToolTip() {
+            mouseMove(bordered, 5, 5)
+            verify(bordered.hovered)
+            verify(!findChild(bordered, "helpTip").active)
         }
 
         function test_aDestructiveButtonIsRed() {
