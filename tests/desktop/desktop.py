@@ -105,9 +105,11 @@ class Process:
 
 
 class Desktop:
-    """One desktop; Torvi, in a home of its own, runs on it."""
+    """One desktop; Torvi runs on it, in a home of the desktop's or in a world of its own."""
 
-    def __init__(self, panel_edge="top", has_panel=True, size="1280x900"):
+    def __init__(self, panel_edge="top", has_panel=True, size="1280x900", world=None):
+        """`world` is the environment in which Torvi finds its user's files."""
+        self.world = world
         self.folder = tempfile.mkdtemp(prefix="torvi-desktop-")
         self.processes = []
         self.torvis = []
@@ -313,6 +315,18 @@ class Desktop:
         if folder:
             self.run("import", "-window", "root", os.path.join(folder, name + ".png"), check=True)
 
+    def wait_for_still_picture(self):
+        """Returns when nothing on the screen moves any more."""
+        last = None
+
+        def look():
+            nonlocal last
+            before = last
+            last = subprocess.run(["import", "-window", "root", "ppm:-"], env=self.environment,
+                                  capture_output=True, timeout=PATIENCE, check=True).stdout
+            return last == before
+        wait_for(look, "a still picture")
+
     # Acting
 
     def click(self, position, button=1):
@@ -324,8 +338,13 @@ class Desktop:
 
     def start_torvi(self, *arguments, **environment):
         """Another process of Torvi, which may end at once."""
+        own = self.environment
+        if self.world is not None:
+            of_desktop = ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR")
+            own = {**self.world, **{name: own[name] for name in of_desktop}}
+            own.pop("WAYLAND_DISPLAY", None)
         process = Process(os.path.join(self.folder, "log"), [PROGRAM, *arguments],
-                          {**self.environment, **environment})
+                          {**own, **environment})
         self.torvis.append(process)
         return process
 
