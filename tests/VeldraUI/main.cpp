@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/VeldraUI/World.h"
+
 #include <QQmlEngine>
 #include <QtQuickTest>
 
@@ -15,6 +17,7 @@ public Q_SLOTS:
     qmlEngineAvailable(QQmlEngine *engine) // NOLINT(readability-convert-member-functions-to-static)
     {
         engine->addImportPath(u"qrc:/qt/qml"_s);
+        qmlRegisterType<torvi::World>("VeldraUI.Tests", 1, 0, "World");
     }
 };
 

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "Stage.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace torvi {
+
+namespace {
+
+const QPoint kNowhere{ 399, 1 };
+
+QQuickItem *below(QQuickItem *item, const QString &name)
+{
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (child->objectName() == name) {
+            return child;
+        }
+    }
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = below(child, name)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Stage::Stage()
+{
+    m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
+    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view.resize(400, 750);
+}
+
+void Stage::open()
+{
+    m_view.setInitialProperties(
+        { { u"stateManager"_s, QVariant::fromValue(world.stateManager()) } });
+    m_view.setSource(QUrl(u"qrc:/qt/qml/VeldraUI/PopoverView.qml"_s));
+    m_view.show();
+    if (!m_view.rootObject() || !QTest::qWaitForWindowActive(&m_view)) {
+        qFatal("the popover does not open");
+    }
+    QTest::mouseMove(&m_view, kNowhere);
+    world.settle();
+}
+
+void Stage::hover(const QString &path)
+{
+    QTest::mouseMove(&m_view, centreOf(path));
+}
+
+void Stage::press(const QString &path)
+{
+    hover(path);
+    QTest::mousePress(&m_view, Qt::LeftButton, {}, centreOf(path));
+}
+
+void Stage::click(const QString &path, Qt::MouseButton button)
+{
+    hover(path);
+    QTest::mouseClick(&m_view, button, {}, centreOf(path));
+    world.settle();
+}
+
+void Stage::key(int key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(&m_view, static_cast<Qt::Key>(key), modifiers);
+    world.settle();
+}
+
+void Stage::type(const QString &text)
+{
+    for (const QChar character : text) {
+        QTest::keyClick(&m_view, character.toLatin1());
+    }
+}
+
+void Stage::scrollTo(double y)
+{
+    item(u"scrollArea"_s)->setProperty("contentY", y);
+}
+
+/// Waits until what moves has come to rest: tool tips come after a moment, symbols turn.
+QImage Stage::picture()
+{
+    QImage picture = m_view.grabWindow();
+    for (int stillFor = 0; stillFor < 3;) {
+        QTest::qWait(250);
+        const QImage next = m_view.grabWindow();
+        stillFor = next == picture || world.stateManager()->isLoading() ? stillFor + 1 : 0;
+        picture = next;
+    }
+    return picture;
+}
+
+QQuickItem *Stage::item(const QString &path) const
+{
+    QQuickItem *item = m_view.rootObject();
+    for (const QString &name : path.split(u'/')) {
+        item = below(item, name);
+        if (!item) {
+            qFatal("there is no %s", qPrintable(path));
+        }
+    }
+    return item;
+}
+
+QPoint Stage::centreOf(const QString &path) const
+{
+    const QQuickItem *target = item(path);
+    return target->mapRectToScene(target->boundingRect()).center().toPoint();
+}
+
+} // namespace torvi

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "Scenes.h"
+#include "Stage.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+/// veldraui_screenshots FOLDER [SCENE...]: pictures of the popover's states, all unless named, into
+/// FOLDER, at the scale that QT_SCALE_FACTOR says.
+int main(int argc, char **argv)
+{
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application(argc, argv);
+    QStringList names = QGuiApplication::arguments().mid(1);
+    if (names.isEmpty()) {
+        std::fputs("usage: veldraui_screenshots FOLDER [SCENE...]\n", stderr);
+        return EXIT_FAILURE;
+    }
+    const QDir folder(names.takeFirst());
+    folder.mkpath(u"."_s);
+    for (const torvi::Scene &scene : torvi::scenes()) {
+        if (!names.isEmpty() && !names.contains(scene.name)) {
+            continue;
+        }
+        torvi::Stage stage;
+        scene.act(stage);
+        const QImage picture = stage.picture();
+        const QString name = u"%1@%2x.png"_s.arg(scene.name).arg(picture.devicePixelRatio());
+        if (!picture.save(folder.filePath(name))) {
+            return EXIT_FAILURE;
+        }
+        std::puts(qPrintable(name));
+    }
+    return EXIT_SUCCESS;
+}
