@@ -4,7 +4,7 @@
 #pragma once
 
 #include "GCloudCLI/BrowserAuthHandler.h"
-#include "Torvi/Clipboard.h"
+#include "VeldraUI/Clipboard.h"
 
 #include <QObject>
 

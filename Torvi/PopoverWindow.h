@@ -20,6 +20,10 @@ public:
     /// lets it float at least.
     void place(const QRect &frame, QScreen *screen);
 
+Q_SIGNALS:
+    /// The user asks for the manager window.
+    void openManager();
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *object, QEvent *event) override;

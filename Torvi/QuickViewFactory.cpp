@@ -6,9 +6,11 @@
 #include "Torvi/QuickPopover.h"
 #include "Torvi/QuickWindow.h"
 #include "Torvi/Renderer.h"
+#include "VeldraUI/AuthState.h"
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QQuickItem>
 
 #include <utility>
 
@@ -16,8 +18,24 @@ using namespace Qt::StringLiterals;
 
 namespace torvi {
 
-QuickViewFactory::QuickViewFactory(BringToFront bringToFront)
-    : m_bringToFront(std::move(bringToFront))
+namespace {
+
+/// Loads a view of VeldraUI, with a state of its own.
+void load(QQuickView &window, const QString &view, AuthStateManager &stateManager,
+          Clipboard &clipboard)
+{
+    auto *state = new AuthState(stateManager, clipboard, {}, &window);
+    window.setInitialProperties({ { u"stateManager"_s, QVariant::fromValue(state) } });
+    window.setSource(QUrl(u"qrc:/qt/qml/VeldraUI/%1.qml"_s.arg(view)));
+}
+
+} // namespace
+
+QuickViewFactory::QuickViewFactory(Clipboard &clipboard, BringToFront bringToFront,
+                                   FollowColorScheme followColorScheme)
+    : m_clipboard(clipboard)
+    , m_bringToFront(std::move(bringToFront))
+    , m_followColorScheme(std::move(followColorScheme))
 {
 }
 
@@ -34,20 +52,34 @@ QQmlEngine *QuickViewFactory::engine()
         Renderer::choose();
         QGuiApplication::setWindowIcon(QIcon(u":/torvi/com.veldra.Torvi.svg"_s));
         m_engine = std::make_unique<QQmlEngine>();
+        m_engine->addImportPath(u"qrc:/qt/qml"_s);
     }
     return m_engine.get();
 }
 
-std::unique_ptr<Popover> QuickViewFactory::makePopover(AuthStateManager & /*stateManager*/,
-                                                       std::function<void()> /*onOpenManager*/)
+std::unique_ptr<Popover> QuickViewFactory::makePopover(AuthStateManager &stateManager,
+                                                       std::function<void()> onOpenManager)
 {
     return std::make_unique<QuickPopover>(
-        [this] {
-            auto window = std::make_unique<PopoverWindow>(engine());
-            window->setSource(QUrl(u"qrc:/torvi/PopoverPlaceholder.qml"_s));
-            return window;
+        [this, &stateManager, onOpenManager = std::move(onOpenManager)] {
+            return makePopoverWindow(stateManager, onOpenManager);
         },
         m_bringToFront);
+}
+
+std::unique_ptr<PopoverWindow>
+QuickViewFactory::makePopoverWindow(AuthStateManager &stateManager,
+                                    const std::function<void()> &onOpenManager)
+{
+    auto window = std::make_unique<PopoverWindow>(engine());
+    load(*window, u"PopoverView"_s, stateManager, m_clipboard);
+    // A view's own signals are known by their names only.
+    const QQuickItem *view = window->rootObject();
+    QObject::connect(view, SIGNAL(close()), window.get(), SLOT(hide()));
+    QObject::connect(view, SIGNAL(quit()), qGuiApp, SLOT(quit()));
+    QObject::connect(view, SIGNAL(openManager()), window.get(), SIGNAL(openManager()));
+    QObject::connect(window.get(), &PopoverWindow::openManager, window.get(), onOpenManager);
+    return window;
 }
 
 std::unique_ptr<Window>
@@ -57,6 +89,7 @@ QuickViewFactory::makeManagerWindow(AuthStateManager & /*stateManager*/,
     const auto makeWindow = [this](std::function<void()> onClose) {
         auto window = std::make_unique<ManagerWindow>(engine(), std::move(onClose));
         window->setSource(QUrl(u"qrc:/torvi/ManagerPlaceholder.qml"_s));
+        m_followColorScheme(*window);
         return window;
     };
     return std::make_unique<QuickWindow>(makeWindow, std::move(onWillClose), m_bringToFront);

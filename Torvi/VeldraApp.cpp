@@ -9,7 +9,6 @@
 #include "Torvi/Linux/LinuxDesktop.h"
 #include "Torvi/Linux/Session.h"
 #include "Torvi/Linux/SingleInstance.h"
-#include "Torvi/Linux/SystemClipboard.h"
 
 #include <QGuiApplication>
 
@@ -113,13 +112,12 @@ int runApplication(const CommandLine::Options &options, int argc, char **argv)
     const Signals signals([](int /*number*/) { QCoreApplication::quit(); });
 
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    SystemClipboard clipboard;
     LinuxDesktop desktop(bus, &printError);
     AppDelegate delegate(
         desktop,
-        [&clipboard] {
+        [&desktop] {
             return std::make_unique<DependencyContainer>(
-                std::make_shared<AppBrowserAuthHandler>(clipboard));
+                std::make_shared<AppBrowserAuthHandler>(desktop.clipboard()));
         },
         options.isTitleLive ? AppDelegate::TitleUpdates::live
                             : AppDelegate::TitleUpdates::atOpening);

@@ -6,8 +6,9 @@
 #include "Torvi/Linux/ActivationToken.h"
 #include "Torvi/Linux/MissingPanelHint.h"
 #include "Torvi/Linux/StatusNotifierItem.h"
+#include "VeldraUI/Style/Theme.h"
 
-#include <QWindow>
+#include <QQuickWindow>
 
 #include <utility>
 
@@ -23,13 +24,27 @@ void bringToFront(QWindow &window)
     });
 }
 
+void followColorScheme(const ColorScheme &scheme, QQuickWindow &window)
+{
+    const auto follow = [&scheme, &window] { Theme::of(window).setDark(scheme.isDark()); };
+    QObject::connect(&scheme, &ColorScheme::changed, &window, follow);
+    follow();
+}
+
 } // namespace
 
 LinuxDesktop::LinuxDesktop(QDBusConnection connection, Say say)
     : m_connection(std::move(connection))
     , m_say(std::move(say))
-    , m_views(&bringToFront)
+    , m_colorScheme(m_connection)
+    , m_views(m_clipboard, &bringToFront,
+              [this](QQuickWindow &window) { followColorScheme(m_colorScheme, window); })
 {
+}
+
+Clipboard &LinuxDesktop::clipboard()
+{
+    return m_clipboard;
 }
 
 std::unique_ptr<StatusItem> LinuxDesktop::makeStatusItem()

@@ -4,7 +4,9 @@
 #pragma once
 
 #include "Torvi/Desktop.h"
+#include "Torvi/Linux/ColorScheme.h"
 #include "Torvi/Linux/GlobalEventMonitor.h"
+#include "Torvi/Linux/SystemClipboard.h"
 #include "Torvi/Linux/TaskListPolicy.h"
 #include "Torvi/QuickViewFactory.h"
 
@@ -21,6 +23,8 @@ public:
     /// `connection` is the session bus. `say` gets what the user should know about the desktop.
     LinuxDesktop(QDBusConnection connection, Say say);
 
+    [[nodiscard]] Clipboard &clipboard();
+
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
     [[nodiscard]] GlobalEventMonitoring &globalEvents() override;
     [[nodiscard]] ActivationPolicySwitching &activationPolicy() override;
@@ -29,6 +33,8 @@ public:
 private:
     QDBusConnection m_connection;
     Say m_say;
+    SystemClipboard m_clipboard;
+    ColorScheme m_colorScheme;
     GlobalEventMonitor m_globalEvents;
     TaskListPolicy m_activationPolicy;
     QuickViewFactory m_views;

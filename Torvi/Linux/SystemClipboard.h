@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Torvi/Clipboard.h"
+#include "VeldraUI/Clipboard.h"
 
 namespace torvi {
 

@@ -1,2 +1,3 @@
 import QtQuick
-Rectangle { color: "#f0f0f0"; Text { anchors.centerIn: parent; text: "Manager" } }
+import VeldraUI.Style
+Rectangle { color: Theme.colors.windowBackground; StyledText { anchors.centerIn: parent; text: "Manager" } }

@@ -281,11 +281,11 @@ TEST_F(AuthStateTest, CopiesTheTokenAsASecret)
     const auto run = executor->expect(GCloudCommand::printIdentityToken());
     state->copyIdentityToken(note());
     processEvents();
-    EXPECT_TRUE(clipboard.writes.isEmpty());
+    EXPECT_TRUE(clipboard.log.isEmpty());
 
     run->finish({ 0, u" token\n"_s, QString() });
 
-    EXPECT_EQ(clipboard.writes, QStringList{ u"secret token"_s });
+    EXPECT_EQ(clipboard.log, QStringList{ u"secret token"_s });
     EXPECT_EQ(calls(), QStringList{ u"true"_s });
     EXPECT_FALSE(state->hasError());
 }
@@ -299,7 +299,7 @@ TEST_F(AuthStateTest, AFailedTokenCopyIsTheLastErrorAndLeavesTheClipboard)
 
     EXPECT_EQ(manager->lastError(), AppError::commandFailed(1, u"no account"_s));
     EXPECT_EQ(calls(), QStringList{ u"false"_s });
-    EXPECT_TRUE(clipboard.writes.isEmpty());
+    EXPECT_TRUE(clipboard.log.isEmpty());
 }
 
 TEST_F(AuthStateTest, AFailureOfAnotherKindIsUnknownWithItsWords)
@@ -353,7 +353,7 @@ TEST_F(AuthStateTest, OperationsUnderWayMayOutliveTheEngineTheStateAndTheManager
 
     engine.reset();
     token->finish(success(u"token"_s));
-    EXPECT_EQ(clipboard.writes, QStringList{ u"secret token"_s });
+    EXPECT_EQ(clipboard.log, QStringList{ u"secret token"_s });
     state.reset();
     change->finish(success());
     manager.reset();

@@ -102,7 +102,7 @@ AuthState *World::stateManager() const
 
 QStringList World::clipboard() const
 {
-    return m_clipboard.writes;
+    return m_clipboard.log;
 }
 
 QStringList World::recents() const
@@ -196,8 +196,9 @@ void World::list(const QStringList &ids, const QVariantMap &names)
 {
     QJsonArray projects;
     for (const QString &id : ids) {
-        projects.append(QJsonObject{ { u"projectId"_s, id },
-                                     { u"name"_s, names.value(id, u"Name of "_s + id).toString() } });
+        projects.append(
+            QJsonObject{ { u"projectId"_s, id },
+                         { u"name"_s, names.value(id, u"Name of "_s + id).toString() } });
     }
     expire();
     expect(u"listProjects"_s);

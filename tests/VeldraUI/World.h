@@ -4,8 +4,8 @@
 #pragma once
 
 #include "VeldraUI/AuthState.h"
-#include "tests/VeldraUI/FakeClipboard.h"
 #include "tests/VeldraUI/FakeDelay.h"
+#include "tests/support/FakeClipboard.h"
 #include "tests/support/FakeConfigReader.h"
 #include "tests/support/FakeExecutor.h"
 #include "tests/support/FakeStores.h"

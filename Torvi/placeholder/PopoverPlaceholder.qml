@@ -1,2 +1,0 @@
-import QtQuick
-Rectangle { color: "#202124"; Text { anchors.centerIn: parent; color: "white"; text: "Popover" } }
