@@ -41,6 +41,7 @@ AuthState::AuthState(AuthStateManager &manager, Clipboard &clipboard, Delay dela
     , m_delay(std::move(delay))
     , m_accounts(new AccountListModel(manager, this))
     , m_configurations(new ConfigurationListModel(manager, this))
+    , m_settings(new SettingsState(manager.settingsStore(), this))
 {
     if (!m_delay) {
         m_delay = [this](std::chrono::milliseconds time, std::function<void()> call) {
@@ -51,6 +52,7 @@ AuthState::AuthState(AuthStateManager &manager, Clipboard &clipboard, Delay dela
     connect(&manager, &AuthStateManager::lastErrorChanged, this, &AuthState::lastErrorChanged);
     connect(&manager, &AuthStateManager::currentContextChanged, this,
             &AuthState::currentContextChanged);
+    connect(&manager, &AuthStateManager::projectsChanged, this, &AuthState::projectsChanged);
 }
 
 AuthStateManager &AuthState::manager() const
@@ -128,6 +130,20 @@ ConfigurationListModel *AuthState::configurations() const
     return m_configurations;
 }
 
+SettingsState *AuthState::settings() const
+{
+    return m_settings;
+}
+
+QStringList AuthState::projectIds() const
+{
+    QStringList ids;
+    for (const Project &project : m_manager.projects()) {
+        ids.append(project.id);
+    }
+    return ids;
+}
+
 QStringList AuthState::modeTexts() const
 {
     QStringList texts;
@@ -182,15 +198,36 @@ void AuthState::activateConfiguration(const QString &name)
     start([this, name] { m_manager.activateConfiguration(name); });
 }
 
+void AuthState::createConfiguration(const QString &name, const QJSValue &done)
+{
+    start([this, name, done] { createConfigurationThen(name, done); });
+}
+
+QCoro::Task<> AuthState::createConfigurationThen(QString name, QJSValue done)
+{
+    co_await m_manager.createConfiguration(std::move(name));
+    done.call();
+}
+
+void AuthState::deleteConfiguration(const QString &name)
+{
+    start([this, name] { m_manager.deleteConfiguration(name); });
+}
+
 void AuthState::triggerADCLogin()
 {
     start([this] { m_manager.triggerADCLogin(); });
 }
 
+void AuthState::setQuotaProject(const QString &projectId)
+{
+    start([this, projectId] { m_manager.setQuotaProject(projectId); });
+}
+
 void AuthState::setQuotaProjectToActive()
 {
     if (hasActiveProject()) {
-        start([this, projectId = activeProjectId()] { m_manager.setQuotaProject(projectId); });
+        setQuotaProject(activeProjectId());
     }
 }
 

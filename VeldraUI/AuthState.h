@@ -8,6 +8,7 @@
 #include "VeldraUI/AccountListModel.h"
 #include "VeldraUI/Clipboard.h"
 #include "VeldraUI/ConfigurationListModel.h"
+#include "VeldraUI/SettingsState.h"
 
 #include <QJSValue>
 #include <QStringList>
@@ -46,6 +47,8 @@ class AuthState final : public QObject
     Q_PROPERTY(torvi::ADCStatus adc READ adc NOTIFY currentContextChanged)
     Q_PROPERTY(torvi::AccountListModel *accounts READ accounts CONSTANT)
     Q_PROPERTY(torvi::ConfigurationListModel *configurations READ configurations CONSTANT)
+    Q_PROPERTY(torvi::SettingsState *settings READ settings CONSTANT)
+    Q_PROPERTY(QStringList projectIds READ projectIds NOTIFY projectsChanged)
     Q_PROPERTY(QStringList modeTexts READ modeTexts CONSTANT)
 
 public:
@@ -85,6 +88,9 @@ public:
     [[nodiscard]] ADCStatus adc() const;
     [[nodiscard]] AccountListModel *accounts() const;
     [[nodiscard]] ConfigurationListModel *configurations() const;
+    [[nodiscard]] SettingsState *settings() const;
+    /// In the state manager's order.
+    [[nodiscard]] QStringList projectIds() const;
     [[nodiscard]] QStringList modeTexts() const;
 
     Q_INVOKABLE void dismissError();
@@ -95,7 +101,11 @@ public:
     Q_INVOKABLE void switchProject(const QString &projectId);
     Q_INVOKABLE void switchAccount(const QString &email);
     Q_INVOKABLE void activateConfiguration(const QString &name);
+    /// done()
+    Q_INVOKABLE void createConfiguration(const QString &name, const QJSValue &done);
+    Q_INVOKABLE void deleteConfiguration(const QString &name);
     Q_INVOKABLE void triggerADCLogin();
+    Q_INVOKABLE void setQuotaProject(const QString &projectId);
     /// Makes the active project the quota project; nothing happens without one.
     Q_INVOKABLE void setQuotaProjectToActive();
     Q_INVOKABLE void clearImpersonation(torvi::AuthState::Mode mode);
@@ -119,10 +129,12 @@ Q_SIGNALS:
     void isLoadingChanged();
     void lastErrorChanged();
     void currentContextChanged();
+    void projectsChanged();
 
 private:
     QCoro::Task<> reloadThen(QJSValue done);
     QCoro::Task<> switchProjectAndRecord(QString projectId);
+    QCoro::Task<> createConfigurationThen(QString name, QJSValue done);
     QCoro::Task<> setImpersonationThen(QString email, ImpersonationMode mode, QJSValue done);
     QCoro::Task<> copyIdentityTokenThen(QJSValue done);
     QCoro::Task<bool> copyIdentityTokenOrFail();
@@ -133,6 +145,7 @@ private:
     Delay m_delay;
     AccountListModel *m_accounts;
     ConfigurationListModel *m_configurations;
+    SettingsState *m_settings;
 };
 
 } // namespace torvi

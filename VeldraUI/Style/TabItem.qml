@@ -52,7 +52,8 @@ T.TabButton {
         const bar = T.TabBar.tabBar
         if (!bar || index < 0 || index >= bar.count)
             return
+        // Before it is chosen: the bar would give it the focus without a mark.
+        bar.itemAt(index).forceActiveFocus(Qt.TabFocusReason)
         bar.setCurrentIndex(index)
-        bar.currentItem.forceActiveFocus(Qt.TabFocusReason)
     }
 }

@@ -364,4 +364,62 @@ TEST_F(AuthStateTest, OperationsUnderWayMayOutliveTheEngineTheStateAndTheManager
     EXPECT_EQ(recents->ids, QStringList());
 }
 
+TEST_F(AuthStateTest, ListsTheProjectsInTheManagersOrder)
+{
+    const QSignalSpy changes(state.get(), &AuthState::projectsChanged);
+
+    list({ u"p2"_s, u"p1"_s });
+
+    EXPECT_EQ(changes.count(), 1);
+    QStringList ids;
+    for (const Project &project : manager->projects()) {
+        ids.append(project.id);
+    }
+    EXPECT_EQ(state->projectIds(), ids);
+    EXPECT_EQ(ids.size(), 2);
+}
+
+TEST_F(AuthStateTest, CreatesAConfigurationFromTheEventLoopAndTellsTheEnd)
+{
+    const auto run = executor->expect(GCloudCommand::createConfiguration(u" new "_s));
+
+    state->createConfiguration(u" new "_s, note());
+    EXPECT_FALSE(run->isRunning());
+    processEvents();
+    EXPECT_TRUE(run->isRunning());
+    EXPECT_TRUE(calls().isEmpty());
+
+    run->finish(success());
+    EXPECT_EQ(calls(), QStringList{ u""_s });
+}
+
+TEST_F(AuthStateTest, TellsTheEndOfAFailedCreationToo)
+{
+    executor->expect(GCloudCommand::createConfiguration(u"x"_s), failure(u"no"_s));
+
+    state->createConfiguration(u"x"_s, note());
+    processEvents();
+
+    EXPECT_EQ(calls(), QStringList{ u""_s });
+    EXPECT_EQ(state->errorMessage(), u"gcloud command failed (exit 1): no"_s);
+}
+
+TEST_F(AuthStateTest, DeletesAConfiguration)
+{
+    executor->expect(GCloudCommand::deleteConfiguration(u"old"_s), success());
+
+    state->deleteConfiguration(u"old"_s);
+    processEvents();
+}
+
+TEST_F(AuthStateTest, SetsAQuotaProjectAsItWasTyped)
+{
+    executor->expect(GCloudCommand::setQuotaProject(u" q "_s), success());
+    executor->expect(GCloudCommand::setQuotaProject(u""_s), success());
+
+    state->setQuotaProject(u" q "_s);
+    state->setQuotaProject(u""_s);
+    processEvents();
+}
+
 } // namespace torvi

@@ -4,6 +4,7 @@
 #include "tests/VeldraUI/World.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -58,6 +59,12 @@ GCloudCommand commandCalled(const QString &name, const QString &argument)
         { u"setAccount"_s, [](auto id) { return GCloudCommand::setAccount(id); } },
         { u"activateConfiguration"_s,
           [](auto id) { return GCloudCommand::activateConfiguration(id); } },
+        { u"createConfiguration"_s,
+          [](auto id) { return GCloudCommand::createConfiguration(id); } },
+        { u"deleteConfiguration"_s,
+          [](auto id) { return GCloudCommand::deleteConfiguration(id); } },
+        { u"listServiceAccounts"_s,
+          [](auto id) { return GCloudCommand::listServiceAccounts(id); } },
         { u"setQuotaProject"_s, [](auto id) { return GCloudCommand::setQuotaProject(id); } },
         { u"applicationDefaultLogin"_s,
           [](auto) { return GCloudCommand::applicationDefaultLogin(); } },
@@ -85,15 +92,20 @@ World::World(QObject *parent)
     , m_favorites(std::make_shared<FakeFavoritesStore>())
     , m_recents(std::make_shared<FakeRecentStore>())
     , m_serviceAccounts(std::make_shared<FakeServiceAccountStore>())
-    , m_manager(std::make_unique<AuthStateManager>(
-          m_counter, m_reader, nullptr, m_favorites, m_recents, m_serviceAccounts,
-          std::make_shared<FakeSettingsStore>(), [this] { return m_now; }))
+    , m_settings(std::make_shared<FakeSettingsStore>())
+    , m_manager(std::make_unique<AuthStateManager>(m_counter, m_reader, nullptr, m_favorites,
+                                                   m_recents, m_serviceAccounts, m_settings,
+                                                   [this] { return m_now; }))
     , m_state(std::make_unique<AuthState>(*m_manager, m_clipboard, m_time.delay()))
     , m_complaintsBefore(failures())
 {
+    QDesktopServices::setUrlHandler(u"https"_s, this, "visit");
 }
 
-World::~World() = default;
+World::~World()
+{
+    QDesktopServices::unsetUrlHandler(u"https"_s);
+}
 
 AuthState *World::stateManager() const
 {
@@ -128,6 +140,36 @@ void World::setPinned(const QStringList &ids)
     m_favorites->ids = { ids.begin(), ids.end() };
 }
 
+QVariantMap World::settings() const
+{
+    return { { u"launchAtLogin"_s, m_settings->isLaunchedAtLogin },
+             { u"format"_s, rawValue(m_settings->format) },
+             { u"interval"_s, m_settings->interval },
+             { u"path"_s,
+               m_settings->path ? QVariant(*m_settings->path) : QVariant::fromValue(nullptr) } };
+}
+
+void World::storeSettings(const QVariantMap &settings)
+{
+    const QVariantMap now = this->settings();
+    const auto setting = [&](const QString &name) { return settings.value(name, now.value(name)); };
+    m_settings->setLaunchAtLogin(setting(u"launchAtLogin"_s).toBool());
+    m_settings->setMenubarDisplayFormat(
+        fromRawValue<MenubarDisplayFormat>(setting(u"format"_s).toString()).value());
+    m_settings->setRefreshIntervalMinutes(setting(u"interval"_s).toLongLong());
+    m_settings->setGcloudPathOverride(textOrNothing(setting(u"path"_s)));
+}
+
+QStringList World::visited() const
+{
+    return m_visited;
+}
+
+void World::visit(const QUrl &address)
+{
+    m_visited.append(address.toString());
+}
+
 int World::commands() const
 {
     return m_counter->count;
@@ -145,6 +187,7 @@ void World::setConfigurations(const QVariantList &configurations, const QString 
         ConfigProperties &properties = m_reader->properties[name];
         properties.project = textOrNothing(fields.value(u"project"_s));
         properties.account = textOrNothing(fields.value(u"account"_s));
+        properties.region = textOrNothing(fields.value(u"region"_s));
         properties.impersonateServiceAccount = textOrNothing(fields.value(u"impersonate"_s));
     }
     readFiles();

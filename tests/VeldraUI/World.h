@@ -10,6 +10,7 @@
 #include "tests/support/FakeExecutor.h"
 #include "tests/support/FakeStores.h"
 
+#include <QUrl>
 #include <QVariantMap>
 
 #include <deque>
@@ -27,6 +28,10 @@ class World : public QObject
     Q_PROPERTY(QStringList clipboard READ clipboard)
     Q_PROPERTY(QStringList recents READ recents WRITE setRecents)
     Q_PROPERTY(QStringList pinned READ pinned WRITE setPinned)
+    /// {launchAtLogin, format, interval, path}, as they are stored; the format as its raw value.
+    Q_PROPERTY(QVariantMap settings READ settings)
+    /// What was opened in the browser.
+    Q_PROPERTY(QStringList visited READ visited)
     /// The number of commands that ran.
     Q_PROPERTY(int commands READ commands)
 
@@ -40,9 +45,13 @@ public:
     void setRecents(const QStringList &ids);
     [[nodiscard]] QStringList pinned() const;
     void setPinned(const QStringList &ids);
+    [[nodiscard]] QVariantMap settings() const;
+    [[nodiscard]] QStringList visited() const;
     [[nodiscard]] int commands() const;
 
-    /// Replaces the configurations: a list of {name, project, account, impersonate}.
+    Q_INVOKABLE void storeSettings(const QVariantMap &settings);
+
+    /// Replaces the configurations: a list of {name, project, account, region, impersonate}.
     Q_INVOKABLE void setConfigurations(const QVariantList &configurations, const QString &active);
     /// Sets properties of the active configuration: {project, account, impersonate}.
     Q_INVOKABLE void configure(const QVariantMap &properties);
@@ -78,6 +87,9 @@ public:
     /// What went wrong so far: unexpected commands, and expected ones that never ran.
     Q_INVOKABLE int complaints() const;
 
+private Q_SLOTS:
+    void visit(const QUrl &address);
+
 private:
     std::shared_ptr<FakeExecutor> m_executor;
     std::shared_ptr<CountingExecutor> m_counter;
@@ -85,11 +97,13 @@ private:
     std::shared_ptr<FakeFavoritesStore> m_favorites;
     std::shared_ptr<FakeRecentStore> m_recents;
     std::shared_ptr<FakeServiceAccountStore> m_serviceAccounts;
+    std::shared_ptr<FakeSettingsStore> m_settings;
     AuthStateManager::Clock::time_point m_now = AuthStateManager::Clock::now();
     std::unique_ptr<AuthStateManager> m_manager;
     FakeClipboard m_clipboard;
     FakeDelay m_time;
     std::unique_ptr<AuthState> m_state;
+    QStringList m_visited;
     std::deque<std::shared_ptr<FakeExecutor::Run>> m_runs;
     int m_expected = 0;
     int m_complaintsBefore = 0;

@@ -3,6 +3,9 @@
 
 #include "tests/VeldraUI/World.h"
 
+#include <QGuiApplication>
+#include <QIcon>
+#include <QPixmap>
 #include <QQmlEngine>
 #include <QtQuickTest>
 
@@ -13,6 +16,15 @@ class Setup : public QObject
     Q_OBJECT
 
 public Q_SLOTS:
+    /// An application that views can tell about.
+    void applicationAvailable() // NOLINT(readability-convert-member-functions-to-static)
+    {
+        QPixmap icon(96, 96);
+        icon.fill(QColor(0, 128, 255));
+        QGuiApplication::setWindowIcon(icon);
+        QGuiApplication::setApplicationVersion(u"1.2.3"_s);
+    }
+
     void
     qmlEngineAvailable(QQmlEngine *engine) // NOLINT(readability-convert-member-functions-to-static)
     {

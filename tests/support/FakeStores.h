@@ -101,6 +101,7 @@ public:
     void setLaunchAtLogin(bool launchAtLogin) override
     {
         isLaunchedAtLogin = launchAtLogin;
+        Q_EMIT changed();
     }
 
     [[nodiscard]] MenubarDisplayFormat menubarDisplayFormat() const override
@@ -111,6 +112,7 @@ public:
     void setMenubarDisplayFormat(MenubarDisplayFormat newFormat) override
     {
         format = newFormat;
+        Q_EMIT changed();
     }
 
     [[nodiscard]] std::optional<QString> gcloudPathOverride() const override
@@ -121,6 +123,7 @@ public:
     void setGcloudPathOverride(const std::optional<QString> &newPath) override
     {
         path = newPath;
+        Q_EMIT changed();
     }
 
     [[nodiscard]] qint64 refreshIntervalMinutes() const override
@@ -131,6 +134,7 @@ public:
     void setRefreshIntervalMinutes(qint64 minutes) override
     {
         interval = minutes;
+        Q_EMIT changed();
     }
 };
 

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+
+import VeldraUI
+import VeldraUI.Style
+
+// The manager window: the less frequent tasks, each on a page of its own behind a tab. A page is made
+// when its tab is first shown, and then stays as its user left it.
+FocusScope {
+    id: root
+
+    required property AuthState stateManager
+
+    readonly property list<ManagerPage> pages: [settingsPage, aboutPage]
+
+    implicitWidth: 600
+    implicitHeight: 450
+    focus: true
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Torvi"
+
+    Rectangle {
+        objectName: "background"
+        anchors.fill: parent
+        color: Theme.colors.windowBackground
+    }
+
+    TabBar {
+        id: tabBar
+
+        objectName: "tabs"
+        width: root.width
+
+        TabItem {
+            objectName: "settingsTab"
+            text: qsTr("Settings")
+            symbolName: "gear"
+        }
+
+        TabItem {
+            objectName: "aboutTab"
+            text: qsTr("About")
+            symbolName: "info.circle"
+        }
+    }
+
+    ManagerPage {
+        id: settingsPage
+
+        objectName: "settingsPage"
+        tabs: tabBar
+        place: 0
+        sourceComponent: SettingsView {
+            settings: root.stateManager.settings
+        }
+    }
+
+    ManagerPage {
+        id: aboutPage
+
+        objectName: "aboutPage"
+        tabs: tabBar
+        place: 1
+        sourceComponent: AboutView {}
+    }
+
+    Shortcut {
+        sequences: [StandardKey.NextChild]
+        onActivated: root.choose((tabBar.currentIndex + 1) % tabBar.count)
+    }
+
+    Shortcut {
+        sequences: [StandardKey.PreviousChild]
+        onActivated: root.choose((tabBar.currentIndex + tabBar.count - 1) % tabBar.count)
+    }
+
+    Instantiator {
+        model: tabBar.count
+
+        Shortcut {
+            required property int index
+
+            sequence: "Ctrl+" + (index + 1)
+            onActivated: root.choose(index)
+        }
+    }
+
+    // By the keyboard, which stays on the tabs where it was there, and goes to the new page otherwise.
+    function choose(place: int) {
+        if (tabBar.activeFocus) {
+            (tabBar.currentItem as TabItem).choose(place)
+        } else {
+            tabBar.setCurrentIndex(place)
+            pages[place].takeKeyboard()
+        }
+    }
+}
