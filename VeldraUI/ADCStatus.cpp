@@ -64,6 +64,36 @@ QString ADCStatus::symbol() const
     Q_UNREACHABLE();
 }
 
+QString ADCStatus::typeName() const
+{
+    switch (m_state.type) {
+    case ADCType::userCredentials:
+        return u"User Credentials (authorized_user)"_s;
+    case ADCType::serviceAccountKey:
+        return u"Service Account Key"_s;
+    case ADCType::impersonatedServiceAccount:
+        return u"Impersonated Service Account"_s;
+    case ADCType::none:
+        return u"Not Configured"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+bool ADCStatus::isValid() const
+{
+    return m_state.isValid;
+}
+
+bool ADCStatus::hasClientEmail() const
+{
+    return m_state.clientEmail.has_value();
+}
+
+QString ADCStatus::clientEmail() const
+{
+    return m_state.clientEmail.value_or(QString());
+}
+
 bool ADCStatus::hasQuotaProject() const
 {
     return m_state.quotaProject.has_value();

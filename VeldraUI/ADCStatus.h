@@ -11,7 +11,7 @@
 namespace torvi {
 
 /// The application default credentials as QML sees them, with each view's own words for their kind.
-/// A value; `hasQuotaProject` tells an absent quota project from an empty one.
+/// A value; each `has…` tells what is absent from what is empty.
 class ADCStatus
 {
     Q_GADGET
@@ -20,6 +20,10 @@ class ADCStatus
     Q_PROPERTY(QString summary READ summary)
     Q_PROPERTY(QString description READ description)
     Q_PROPERTY(QString symbol READ symbol)
+    Q_PROPERTY(QString typeName READ typeName)
+    Q_PROPERTY(bool isValid READ isValid)
+    Q_PROPERTY(bool hasClientEmail READ hasClientEmail)
+    Q_PROPERTY(QString clientEmail READ clientEmail)
     Q_PROPERTY(bool hasQuotaProject READ hasQuotaProject)
     Q_PROPERTY(QString quotaProject READ quotaProject)
     Q_PROPERTY(bool isImpersonating READ isImpersonating)
@@ -36,6 +40,11 @@ public:
     [[nodiscard]] QString description() const;
     /// The symbol beside description().
     [[nodiscard]] QString symbol() const;
+    /// The kind, in the words of the manager window.
+    [[nodiscard]] QString typeName() const;
+    [[nodiscard]] bool isValid() const;
+    [[nodiscard]] bool hasClientEmail() const;
+    [[nodiscard]] QString clientEmail() const;
     [[nodiscard]] bool hasQuotaProject() const;
     [[nodiscard]] QString quotaProject() const;
     /// Whether the credentials impersonate a service account whose e-mail is known.

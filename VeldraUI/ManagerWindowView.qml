@@ -13,7 +13,7 @@ FocusScope {
 
     required property AuthState stateManager
 
-    readonly property list<ManagerPage> pages: [settingsPage, aboutPage]
+    readonly property list<ManagerPage> pages: [adcPage, settingsPage, aboutPage]
 
     implicitWidth: 600
     implicitHeight: 450
@@ -35,6 +35,12 @@ FocusScope {
         width: root.width
 
         TabItem {
+            objectName: "adcTab"
+            text: qsTr("ADC")
+            symbolName: "key.fill"
+        }
+
+        TabItem {
             objectName: "settingsTab"
             text: qsTr("Settings")
             symbolName: "gear"
@@ -48,11 +54,22 @@ FocusScope {
     }
 
     ManagerPage {
+        id: adcPage
+
+        objectName: "adcPage"
+        tabs: tabBar
+        place: 0
+        sourceComponent: ADCManagerView {
+            stateManager: root.stateManager
+        }
+    }
+
+    ManagerPage {
         id: settingsPage
 
         objectName: "settingsPage"
         tabs: tabBar
-        place: 0
+        place: 1
         sourceComponent: SettingsView {
             settings: root.stateManager.settings
         }
@@ -63,7 +80,7 @@ FocusScope {
 
         objectName: "aboutPage"
         tabs: tabBar
-        place: 1
+        place: 2
         sourceComponent: AboutView {}
     }
 

@@ -16,6 +16,7 @@ struct ADCWords
     QString summary;
     QString description;
     QString symbol;
+    QString typeName;
     bool isConfigured;
 };
 
@@ -30,20 +31,23 @@ TEST_P(ADCStatusWordsTest, EachViewHasItsOwn)
     EXPECT_EQ(status.summary(), GetParam().summary);
     EXPECT_EQ(status.description(), GetParam().description);
     EXPECT_EQ(status.symbol(), GetParam().symbol);
+    EXPECT_EQ(status.typeName(), GetParam().typeName);
     EXPECT_EQ(status.isConfigured(), GetParam().isConfigured);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, ADCStatusWordsTest,
     testing::Values(ADCWords{ "User", ADCType::userCredentials, u"User credentials"_s,
-                              u"User credentials"_s, u"person.badge.key"_s, true },
+                              u"User credentials"_s, u"person.badge.key"_s,
+                              u"User Credentials (authorized_user)"_s, true },
                     ADCWords{ "Key", ADCType::serviceAccountKey, u"Service account key"_s,
-                              u"Service account key"_s, u"key.fill"_s, true },
+                              u"Service account key"_s, u"key.fill"_s, u"Service Account Key"_s,
+                              true },
                     ADCWords{ "Impersonated", ADCType::impersonatedServiceAccount,
                               u"Impersonated SA"_s, u"Impersonated service account"_s,
-                              u"bolt.badge.a"_s, true },
+                              u"bolt.badge.a"_s, u"Impersonated Service Account"_s, true },
                     ADCWords{ "None", ADCType::none, u"Not configured"_s, u"Not configured"_s,
-                              u"key"_s, false }),
+                              u"key"_s, u"Not Configured"_s, false }),
     [](const auto &row) { return row.param.name; });
 
 TEST(ADCStatusTest, TellsAnAbsentQuotaProjectFromAnEmptyOne)
@@ -53,6 +57,24 @@ TEST(ADCStatusTest, TellsAnAbsentQuotaProjectFromAnEmptyOne)
     const ADCStatus empty(ADCState{ ADCType::userCredentials, u""_s, std::nullopt, true });
     EXPECT_TRUE(empty.hasQuotaProject());
     EXPECT_EQ(empty.quotaProject(), u""_s);
+}
+
+TEST(ADCStatusTest, TellsAnAbsentClientEmailFromAnEmptyOne)
+{
+    EXPECT_FALSE(ADCStatus().hasClientEmail());
+    EXPECT_EQ(ADCStatus().clientEmail(), u""_s);
+
+    const ADCStatus empty(ADCState{ ADCType::serviceAccountKey, std::nullopt, u""_s, true });
+    EXPECT_TRUE(empty.hasClientEmail());
+    EXPECT_EQ(empty.clientEmail(), u""_s);
+    const ADCStatus set(ADCState{ ADCType::userCredentials, std::nullopt, u"a@x"_s, true });
+    EXPECT_EQ(set.clientEmail(), u"a@x"_s);
+}
+
+TEST(ADCStatusTest, IsValidAsTheFileIs)
+{
+    EXPECT_FALSE(ADCStatus().isValid());
+    EXPECT_TRUE(ADCStatus(ADCState{ ADCType::none, std::nullopt, std::nullopt, true }).isValid());
 }
 
 TEST(ADCStatusTest, ImpersonatesOnlyWithTheKindAndAnEmail)

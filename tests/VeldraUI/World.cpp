@@ -215,10 +215,11 @@ void World::setAccounts(const QStringList &emails)
     readFiles();
 }
 
-void World::setADC(const QString &type, const QVariant &quotaProject, const QVariant &clientEmail)
+void World::setADC(const QString &type, const QVariant &quotaProject, const QVariant &clientEmail,
+                   bool isValid)
 {
     m_reader->adcState = { fromRawValue<ADCType>(type).value(), textOrNothing(quotaProject),
-                           textOrNothing(clientEmail), true };
+                           textOrNothing(clientEmail), isValid };
     readFiles();
 }
 

@@ -58,7 +58,7 @@ public:
     Q_INVOKABLE void setAccounts(const QStringList &emails);
     /// `type` is the raw value.
     Q_INVOKABLE void setADC(const QString &type, const QVariant &quotaProject = {},
-                            const QVariant &clientEmail = {});
+                            const QVariant &clientEmail = {}, bool isValid = true);
     /// What a change in the configuration directory leads to.
     Q_INVOKABLE void readFiles();
     /// Makes `email` active, with `project` when it is not null.

@@ -26,8 +26,8 @@ Item {
         name: "ManagerWindowView"
         view: viewComponent
 
-        readonly property var tabNames: ["settingsTab", "aboutTab"]
-        readonly property var pageNames: ["settingsPage", "aboutPage"]
+        readonly property var tabNames: ["adcTab", "settingsTab", "aboutTab"]
+        readonly property var pageNames: ["adcPage", "settingsPage", "aboutPage"]
 
         function viewOf(page: string): Item {
             return find(page).item
@@ -47,8 +47,9 @@ Item {
 
         function test_tabs_data() {
             return [
-                { tag: "settingsTab", place: 0, text: "Settings", symbol: "gear" },
-                { tag: "aboutTab", place: 1, text: "About", symbol: "info.circle" },
+                { tag: "adcTab", place: 0, text: "ADC", symbol: "key.fill" },
+                { tag: "settingsTab", place: 1, text: "Settings", symbol: "gear" },
+                { tag: "aboutTab", place: 2, text: "About", symbol: "info.circle" },
             ]
         }
 
