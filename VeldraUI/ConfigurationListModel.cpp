@@ -29,6 +29,14 @@ QVariant ConfigurationListModel::data(const QModelIndex &index, int role) const
         return configuration.properties.project.has_value();
     case ProjectIdRole:
         return configuration.properties.project.value_or(QString());
+    case HasAccountRole:
+        return configuration.properties.account.has_value();
+    case AccountRole:
+        return configuration.properties.account.value_or(QString());
+    case HasRegionRole:
+        return configuration.properties.region.has_value();
+    case RegionRole:
+        return configuration.properties.region.value_or(QString());
     default:
         return {};
     }
@@ -39,7 +47,11 @@ QHash<int, QByteArray> ConfigurationListModel::roleNames() const
     return { { NameRole, "name" },
              { IsActiveRole, "isActive" },
              { HasProjectRole, "hasProject" },
-             { ProjectIdRole, "projectId" } };
+             { ProjectIdRole, "projectId" },
+             { HasAccountRole, "hasAccount" },
+             { AccountRole, "account" },
+             { HasRegionRole, "hasRegion" },
+             { RegionRole, "region" } };
 }
 
 void ConfigurationListModel::update()

@@ -25,6 +25,10 @@ public:
         IsActiveRole, ///< as the record itself says
         HasProjectRole, ///< tells a project that is not set from one that is set to nothing
         ProjectIdRole,
+        HasAccountRole,
+        AccountRole,
+        HasRegionRole,
+        RegionRole,
     };
 
     /// `manager` must outlive this.

@@ -13,7 +13,7 @@ FocusScope {
 
     required property AuthState stateManager
 
-    readonly property list<ManagerPage> pages: [adcPage, settingsPage, aboutPage]
+    readonly property list<ManagerPage> pages: [configurationsPage, adcPage, settingsPage, aboutPage]
 
     implicitWidth: 600
     implicitHeight: 450
@@ -35,6 +35,12 @@ FocusScope {
         width: root.width
 
         TabItem {
+            objectName: "configurationsTab"
+            text: qsTr("Configurations")
+            symbolName: "slider.horizontal.3"
+        }
+
+        TabItem {
             objectName: "adcTab"
             text: qsTr("ADC")
             symbolName: "key.fill"
@@ -54,11 +60,22 @@ FocusScope {
     }
 
     ManagerPage {
+        id: configurationsPage
+
+        objectName: "configurationsPage"
+        tabs: tabBar
+        place: 0
+        sourceComponent: ConfigurationEditorView {
+            stateManager: root.stateManager
+        }
+    }
+
+    ManagerPage {
         id: adcPage
 
         objectName: "adcPage"
         tabs: tabBar
-        place: 0
+        place: 1
         sourceComponent: ADCManagerView {
             stateManager: root.stateManager
         }
@@ -69,7 +86,7 @@ FocusScope {
 
         objectName: "settingsPage"
         tabs: tabBar
-        place: 1
+        place: 2
         sourceComponent: SettingsView {
             settings: root.stateManager.settings
         }
@@ -80,7 +97,7 @@ FocusScope {
 
         objectName: "aboutPage"
         tabs: tabBar
-        place: 2
+        place: 3
         sourceComponent: AboutView {}
     }
 

@@ -39,26 +39,15 @@ Flickable {
         objectName: "scrollIndicator"
     }
 
-    WheelHandler {
+    ScrollWheel {
         enabled: root.scrolls
-        target: null
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        onWheel: event => root.scrollBy(event.pixelDelta.y !== 0 ? -event.pixelDelta.y
-                                                                 : -event.angleDelta.y / 120 * 1.5 * root.line)
+        line: root.line
+        onScrolled: distance => root.scrollBy(distance)
     }
 
-    DragHandler {
-        property real before: 0
-
+    ScrollDrag {
         enabled: root.scrolls
-        target: null
-        acceptedDevices: PointerDevice.TouchScreen
-        xAxis.enabled: false
-        onActiveChanged: before = 0
-        onActiveTranslationChanged: {
-            root.scrollBy(before - activeTranslation.y)
-            before = activeTranslation.y
-        }
+        onScrolled: distance => root.scrollBy(distance)
     }
 
     function distanceOf(key: int): real {

@@ -61,6 +61,27 @@ class ConfigurationListModelTest : public AuthStateFixture
 {
 };
 
+TEST_F(ConfigurationListModelTest, TellsAbsentAccountsAndRegionsFromEmptyOnes)
+{
+    reader->names = { u"default"_s, u"empty"_s, u"labs"_s };
+    reader->properties[u"empty"_s].account = u""_s;
+    reader->properties[u"empty"_s].region = u""_s;
+    reader->properties[u"labs"_s].account = u"a@x"_s;
+    reader->properties[u"labs"_s].region = u"europe-west1"_s;
+    manager->reloadFromFiles();
+
+    const ConfigurationListModel &configurations = *state->configurations();
+    const auto at = [&](int row, int role) { return configurations.index(row).data(role); };
+    EXPECT_EQ(at(0, ConfigurationListModel::HasAccountRole), false);
+    EXPECT_EQ(at(0, ConfigurationListModel::HasRegionRole), false);
+    EXPECT_EQ(at(1, ConfigurationListModel::HasAccountRole), true);
+    EXPECT_EQ(at(1, ConfigurationListModel::AccountRole), u""_s);
+    EXPECT_EQ(at(1, ConfigurationListModel::HasRegionRole), true);
+    EXPECT_EQ(at(1, ConfigurationListModel::RegionRole), u""_s);
+    EXPECT_EQ(at(2, ConfigurationListModel::AccountRole), u"a@x"_s);
+    EXPECT_EQ(at(2, ConfigurationListModel::RegionRole), u"europe-west1"_s);
+}
+
 TEST_F(ConfigurationListModelTest, TellsAnAbsentProjectFromAnEmptyOne)
 {
     reader->names = { u"default"_s, u"empty"_s, u"labs"_s };

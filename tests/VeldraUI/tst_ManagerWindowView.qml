@@ -26,8 +26,8 @@ Item {
         name: "ManagerWindowView"
         view: viewComponent
 
-        readonly property var tabNames: ["adcTab", "settingsTab", "aboutTab"]
-        readonly property var pageNames: ["adcPage", "settingsPage", "aboutPage"]
+        readonly property var tabNames: ["configurationsTab", "adcTab", "settingsTab", "aboutTab"]
+        readonly property var pageNames: ["configurationsPage", "adcPage", "settingsPage", "aboutPage"]
 
         function viewOf(page: string): Item {
             return find(page).item
@@ -47,9 +47,10 @@ Item {
 
         function test_tabs_data() {
             return [
-                { tag: "adcTab", place: 0, text: "ADC", symbol: "key.fill" },
-                { tag: "settingsTab", place: 1, text: "Settings", symbol: "gear" },
-                { tag: "aboutTab", place: 2, text: "About", symbol: "info.circle" },
+                { tag: "configurationsTab", place: 0, text: "Configurations", symbol: "slider.horizontal.3" },
+                { tag: "adcTab", place: 1, text: "ADC", symbol: "key.fill" },
+                { tag: "settingsTab", place: 2, text: "Settings", symbol: "gear" },
+                { tag: "aboutTab", place: 3, text: "About", symbol: "info.circle" },
             ]
         }
 
@@ -137,6 +138,20 @@ Item {
             keyClick(Qt.Key_1 + pageNames.length, Qt.ControlModifier)
 
             compare(shownPage(), pageNames[0])
+        }
+
+        function test_anOpenSheetKeepsTheTabsAsTheyAre() {
+            show()
+            const page = viewOf("configurationsPage")
+            page.showingCreateSheet = true
+            tryVerify(() => page.createSheet.opened)
+            keyClick(Qt.Key_Tab, Qt.ControlModifier)
+            keyClick(Qt.Key_2, Qt.ControlModifier)
+            mouseClick(find("aboutTab"))
+
+            compare(shownPage(), "configurationsPage")
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !page.createSheet.visible)
         }
 
         function test_arrowKeysOnTheTabsChooseTheNext() {

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+
+import VeldraUI.Style
+
+// A row of a ListArea that is no button itself but may hold some: RowAction items in its contentItem.
+// `text` and `details` are read by assistive technology.
+T.Control {
+    id: root
+
+    required property int index
+    property string text: ""
+    property string details: ""
+
+    readonly property bool isCurrent: ListView.isCurrentItem
+    readonly property ListArea area: ListView.view as ListArea
+
+    width: area ? area.width : implicitWidth
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    horizontalPadding: 12
+    verticalPadding: 4
+
+    focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+
+    background: Item {
+        Divider {
+            x: root.leftPadding
+            y: root.height - 1
+            width: root.width - 2 * x
+            visible: root.area !== null && root.index + 1 < root.area.count
+            Accessible.ignored: true
+        }
+
+        FocusRing {
+            target: root
+            gap: -2
+        }
+    }
+
+    onActiveFocusChanged: if (activeFocus) area.currentIndex = index
+    onVisualFocusChanged: if (visualFocus) area.reveal(index)
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: text
+    Accessible.description: (details === "" ? "" : details + ", ")
+                            + qsTr("%1 of %2").arg(index + 1).arg(area ? area.count : 0)
+    Accessible.focusable: true
+
+    TapHandler {
+        onTapped: root.forceActiveFocus(Qt.MouseFocusReason)
+    }
+}
