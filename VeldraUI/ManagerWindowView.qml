@@ -13,7 +13,8 @@ FocusScope {
 
     required property AuthState stateManager
 
-    readonly property list<ManagerPage> pages: [configurationsPage, adcPage, settingsPage, aboutPage]
+    readonly property list<ManagerPage> pages: [configurationsPage, serviceAccountsPage, adcPage, settingsPage,
+                                                aboutPage]
 
     implicitWidth: 600
     implicitHeight: 450
@@ -38,6 +39,12 @@ FocusScope {
             objectName: "configurationsTab"
             text: qsTr("Configurations")
             symbolName: "slider.horizontal.3"
+        }
+
+        TabItem {
+            objectName: "serviceAccountsTab"
+            text: qsTr("Service Accounts")
+            symbolName: "person.badge.key"
         }
 
         TabItem {
@@ -71,11 +78,22 @@ FocusScope {
     }
 
     ManagerPage {
+        id: serviceAccountsPage
+
+        objectName: "serviceAccountsPage"
+        tabs: tabBar
+        place: 1
+        sourceComponent: ServiceAccountManagerView {
+            stateManager: root.stateManager
+        }
+    }
+
+    ManagerPage {
         id: adcPage
 
         objectName: "adcPage"
         tabs: tabBar
-        place: 1
+        place: 2
         sourceComponent: ADCManagerView {
             stateManager: root.stateManager
         }
@@ -86,7 +104,7 @@ FocusScope {
 
         objectName: "settingsPage"
         tabs: tabBar
-        place: 2
+        place: 3
         sourceComponent: SettingsView {
             settings: root.stateManager.settings
         }
@@ -97,7 +115,7 @@ FocusScope {
 
         objectName: "aboutPage"
         tabs: tabBar
-        place: 3
+        place: 4
         sourceComponent: AboutView {}
     }
 

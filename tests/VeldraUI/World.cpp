@@ -270,6 +270,19 @@ void World::saveAccount(const QString &projectId, const QString &email, const QV
     m_serviceAccounts->addServiceAccount({ email, projectId, textOrNothing(displayName) });
 }
 
+QVariantList World::saved(const QString &projectId) const
+{
+    QVariantList accounts;
+    for (const ServiceAccount &account : m_serviceAccounts->serviceAccounts(projectId)) {
+        accounts.append(QVariantMap{
+            { u"email"_s, account.email },
+            { u"displayName"_s,
+              account.displayName ? QVariant(*account.displayName) : QVariant::fromValue(nullptr) },
+        });
+    }
+    return accounts;
+}
+
 void World::setError(const QString &message)
 {
     m_manager->setLastError(AppError::unknown(message));
@@ -285,6 +298,13 @@ void World::finish(const QString &standardOutput)
 {
     const auto run = m_runs.front();
     m_runs.pop_front();
+    run->finish({ 0, standardOutput, QString() });
+}
+
+void World::finishNewest(const QString &standardOutput)
+{
+    const auto run = m_runs.back();
+    m_runs.pop_back();
     run->finish({ 0, standardOutput, QString() });
 }
 

@@ -70,6 +70,8 @@ public:
     Q_INVOKABLE void expire();
     Q_INVOKABLE void saveAccount(const QString &projectId, const QString &email,
                                  const QVariant &displayName = {});
+    /// What is saved for a project: a list of {email, displayName}.
+    [[nodiscard]] Q_INVOKABLE QVariantList saved(const QString &projectId) const;
     Q_INVOKABLE void setError(const QString &message);
 
     /// The next command will be that of this name (as in `setProject`), with this argument; it runs
@@ -77,6 +79,8 @@ public:
     Q_INVOKABLE void expect(const QString &command, const QString &argument = {});
     /// Ends the command that was expected first and has not ended yet.
     Q_INVOKABLE void finish(const QString &standardOutput = {});
+    /// As finish(), of the command that was expected last.
+    Q_INVOKABLE void finishNewest(const QString &standardOutput);
     Q_INVOKABLE void fail(const QString &standardError);
     Q_INVOKABLE void failOddly(const QString &what);
 

@@ -26,8 +26,9 @@ Item {
         name: "ManagerWindowView"
         view: viewComponent
 
-        readonly property var tabNames: ["configurationsTab", "adcTab", "settingsTab", "aboutTab"]
-        readonly property var pageNames: ["configurationsPage", "adcPage", "settingsPage", "aboutPage"]
+        readonly property var tabNames: ["configurationsTab", "serviceAccountsTab", "adcTab", "settingsTab", "aboutTab"]
+        readonly property var pageNames: ["configurationsPage", "serviceAccountsPage", "adcPage", "settingsPage",
+                                          "aboutPage"]
 
         function viewOf(page: string): Item {
             return find(page).item
@@ -48,9 +49,10 @@ Item {
         function test_tabs_data() {
             return [
                 { tag: "configurationsTab", place: 0, text: "Configurations", symbol: "slider.horizontal.3" },
-                { tag: "adcTab", place: 1, text: "ADC", symbol: "key.fill" },
-                { tag: "settingsTab", place: 2, text: "Settings", symbol: "gear" },
-                { tag: "aboutTab", place: 3, text: "About", symbol: "info.circle" },
+                { tag: "serviceAccountsTab", place: 1, text: "Service Accounts", symbol: "person.badge.key" },
+                { tag: "adcTab", place: 2, text: "ADC", symbol: "key.fill" },
+                { tag: "settingsTab", place: 3, text: "Settings", symbol: "gear" },
+                { tag: "aboutTab", place: 4, text: "About", symbol: "info.circle" },
             ]
         }
 
@@ -98,6 +100,31 @@ Item {
             compare(world.commands, 0)
         }
 
+        function test_openingTheWindowStartsNoDiscovery() {
+            world.signIn("a@x", "p1")
+            show()
+            world.settle()
+            compare(world.commands, 0)
+            world.expect("listServiceAccounts", "p1")
+            press("serviceAccountsTab")
+            compare(world.commands, 1)
+            press("adcTab")
+            press("serviceAccountsTab")
+
+            compare(world.commands, 1)
+            world.finish("[]")
+        }
+
+        function test_everyPageHasTheSameStateManager() {
+            show()
+            for (const name of ["configurations", "serviceAccounts", "adc"]) {
+                mouseClick(find(name + "Tab"))
+                compare(viewOf(name + "Page").stateManager, world.stateManager)
+            }
+            mouseClick(find("settingsTab"))
+            compare(viewOf("settingsPage").settings, world.stateManager.settings)
+        }
+
         function test_typedTextSurvivesAChangeOfTab() {
             show()
             mouseClick(find("settingsTab"))
@@ -107,6 +134,21 @@ Item {
             mouseClick(find("settingsTab"))
 
             compare(text("gcloudPath"), " ")
+        }
+
+        function test_whatIsTypedForAServiceAccountSurvivesToo() {
+            show()
+            mouseClick(find("serviceAccountsTab"))
+            mouseClick(find("emailField"))
+            keyClick(Qt.Key_N)
+            mouseClick(find("adcTab"))
+            mouseClick(find("quotaField"))
+            keyClick(Qt.Key_Q)
+            mouseClick(find("serviceAccountsTab"))
+            compare(text("emailField"), "n")
+            mouseClick(find("adcTab"))
+
+            compare(text("quotaField"), "q")
         }
 
         function test_controlTabGoesThroughTheTabsAndRoundThem() {

@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "VeldraUI/ServiceAccountListModel.h"
+
+#include "VeldraUI/NextRows.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <utility>
+
+namespace torvi {
+
+namespace {
+
+std::vector<ServiceAccountRow> rowsOf(const QList<ServiceAccount> &saved,
+                                      const QList<ServiceAccount> &discovered)
+{
+    std::vector<ServiceAccountRow> rows;
+    rows.reserve(static_cast<std::size_t>(saved.size() + discovered.size()));
+    QSet<QString> savedEmails;
+    for (const ServiceAccount &account : saved) {
+        savedEmails.insert(account.email);
+        rows.push_back({ account, true });
+    }
+    for (const ServiceAccount &account : discovered) {
+        if (!savedEmails.contains(account.email)) {
+            rows.push_back({ account, false });
+        }
+    }
+    return rows;
+}
+
+/// An account that is saved, or no longer is, leaves its section and enters the other.
+QString identityOf(const ServiceAccountRow &row)
+{
+    return (row.isSaved ? u's' : u'd') + row.account.email;
+}
+
+} // namespace
+
+AuthState *ServiceAccountListModel::stateManager() const
+{
+    return m_stateManager;
+}
+
+void ServiceAccountListModel::setStateManager(AuthState *stateManager)
+{
+    if (m_stateManager == stateManager) {
+        return;
+    }
+    if (m_stateManager) {
+        m_stateManager->manager().serviceAccountStore().disconnect(this);
+    }
+    m_stateManager = stateManager;
+    if (stateManager) {
+        connect(&stateManager->manager().serviceAccountStore(), &ServiceAccountStoring::changed,
+                this, &ServiceAccountListModel::update);
+    }
+    Q_EMIT stateManagerChanged();
+    update();
+}
+
+QString ServiceAccountListModel::projectId() const
+{
+    return m_projectId;
+}
+
+void ServiceAccountListModel::setProjectId(const QString &projectId)
+{
+    if (m_projectId != projectId) {
+        m_projectId = projectId;
+        Q_EMIT projectIdChanged();
+        update();
+    }
+}
+
+int ServiceAccountListModel::savedCount() const
+{
+    return m_savedCount;
+}
+
+int ServiceAccountListModel::discoveredCount() const
+{
+    return rowCount() - m_savedCount;
+}
+
+bool ServiceAccountListModel::isLoading() const
+{
+    return m_isLoading;
+}
+
+bool ServiceAccountListModel::discoveryFailed() const
+{
+    return m_discoveryFailed;
+}
+
+QVariant ServiceAccountListModel::data(const QModelIndex &index, int role) const
+{
+    const ServiceAccountRow &row = rowAt(index);
+    switch (role) {
+    case EmailRole:
+        return row.account.email;
+    case DisplayNameRole:
+        return row.account.displayName.value_or(QString());
+    case IsSavedRole:
+        return row.isSaved;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> ServiceAccountListModel::roleNames() const
+{
+    return { { EmailRole, "email" },
+             { DisplayNameRole, "displayName" },
+             { IsSavedRole, "isSaved" } };
+}
+
+void ServiceAccountListModel::discover(const QString &projectId)
+{
+    QMetaObject::invokeMethod(
+        this, [this, projectId] { discoverNow(projectId); }, Qt::QueuedConnection);
+}
+
+QCoro::Task<> ServiceAccountListModel::discoverNow(QString projectId)
+{
+    if (!m_stateManager) {
+        co_return;
+    }
+    const QPointer self(this);
+    m_isLoading = true;
+    m_discoveryFailed = false;
+    Q_EMIT changed();
+    QList<ServiceAccount> found
+        = co_await m_stateManager->manager().fetchServiceAccounts(std::move(projectId));
+    if (!self) {
+        co_return;
+    }
+    m_discovered = std::move(found);
+    m_discoveryFailed = m_discovered.isEmpty();
+    m_isLoading = false;
+    update();
+}
+
+void ServiceAccountListModel::save(const QString &email)
+{
+    const auto account = std::find_if(
+        m_discovered.cbegin(), m_discovered.cend(),
+        [&email](const ServiceAccount &candidate) { return candidate.email == email; });
+    if (m_stateManager && account != m_discovered.cend()) {
+        m_stateManager->manager().serviceAccountStore().addServiceAccount(
+            ServiceAccount(*account)); // the store tells of it before it returns
+    }
+}
+
+void ServiceAccountListModel::add(const QString &email, const QString &displayName)
+{
+    if (m_stateManager) {
+        m_stateManager->manager().serviceAccountStore().addServiceAccount(
+            { email, m_projectId,
+              displayName.isEmpty() ? std::nullopt : std::optional(displayName) });
+    }
+}
+
+void ServiceAccountListModel::remove(const QString &email)
+{
+    if (m_stateManager) {
+        m_stateManager->manager().serviceAccountStore().removeServiceAccount(email, m_projectId);
+    }
+}
+
+void ServiceAccountListModel::update()
+{
+    const QList<ServiceAccount> saved = m_stateManager
+        ? m_stateManager->manager().serviceAccountStore().serviceAccounts(m_projectId)
+        : QList<ServiceAccount>();
+    std::vector<ServiceAccountRow> next = rowsOf(saved, m_discovered);
+    const std::vector<int> nextRows = nextRowsByIdentity(rows(), next, &identityOf);
+    m_savedCount = static_cast<int>(saved.size());
+    change(std::move(next), nextRows);
+    Q_EMIT changed();
+}
+
+} // namespace torvi
