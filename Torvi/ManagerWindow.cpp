@@ -18,6 +18,7 @@ ManagerWindow::ManagerWindow(QQmlEngine *engine, std::function<void()> onWillClo
 {
     setTitle(u"Torvi"_s);
     setResizeMode(QQuickView::SizeRootObjectToView);
+    setMinimumSize(kSmallestSize);
     resize(kSize);
 }
 

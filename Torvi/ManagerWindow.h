@@ -16,6 +16,7 @@ class ManagerWindow final : public QQuickView
 
 public:
     static constexpr QSize kSize{ 600, 450 };
+    static constexpr QSize kSmallestSize{ 480, 360 };
 
     ManagerWindow(QQmlEngine *engine, std::function<void()> onWillClose);
 

@@ -83,12 +83,12 @@ QuickViewFactory::makePopoverWindow(AuthStateManager &stateManager,
 }
 
 std::unique_ptr<Window>
-QuickViewFactory::makeManagerWindow(AuthStateManager & /*stateManager*/,
+QuickViewFactory::makeManagerWindow(AuthStateManager &stateManager,
                                     std::function<void(const Window &)> onWillClose)
 {
-    const auto makeWindow = [this](std::function<void()> onClose) {
+    const auto makeWindow = [this, &stateManager](std::function<void()> onClose) {
         auto window = std::make_unique<ManagerWindow>(engine(), std::move(onClose));
-        window->setSource(QUrl(u"qrc:/torvi/ManagerPlaceholder.qml"_s));
+        load(*window, u"ManagerWindowView"_s, stateManager, m_clipboard);
         m_followColorScheme(*window);
         return window;
     };

@@ -43,6 +43,7 @@ TEST_F(QuickWindowTest, IsAnOrdinaryResizableWindowInTheMiddleOfTheScreen)
     EXPECT_EQ(shown->title(), u"Torvi"_s);
     EXPECT_EQ(shown->size(), QSize(600, 450));
     EXPECT_EQ(shown->type(), Qt::Window);
+    EXPECT_EQ(shown->minimumSize(), QSize(480, 360));
     EXPECT_NE(shown->minimumSize(), shown->maximumSize());
     EXPECT_EQ(shown->geometry().center(), shown->screen()->availableGeometry().center());
 }

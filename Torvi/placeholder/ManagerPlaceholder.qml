@@ -1,3 +1,0 @@
-import QtQuick
-import VeldraUI.Style
-Rectangle { color: Theme.colors.windowBackground; StyledText { anchors.centerIn: parent; text: "Manager" } }
