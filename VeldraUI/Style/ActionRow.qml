@@ -16,6 +16,7 @@ T.Control {
     property string details: ""
 
     readonly property bool isCurrent: ListView.isCurrentItem
+    readonly property bool isLastOfSection: ListView.nextSection !== ListView.section
     readonly property ListArea area: ListView.view as ListArea
 
     width: area ? area.width : implicitWidth
@@ -30,13 +31,19 @@ T.Control {
             x: root.leftPadding
             y: root.height - 1
             width: root.width - 2 * x
-            visible: root.area !== null && root.index + 1 < root.area.count
+            visible: root.area !== null && root.index + 1 < root.area.count && !root.isLastOfSection
             Accessible.ignored: true
         }
 
-        FocusRing {
-            target: root
-            gap: -2
+        Item {
+            x: 4
+            width: parent.width - 8
+            height: parent.height
+
+            FocusRing {
+                target: root
+                gap: -2
+            }
         }
     }
 

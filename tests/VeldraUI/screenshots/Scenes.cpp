@@ -54,26 +54,31 @@ void openWithError(Stage &stage, const QString &message)
 
 QString traceback()
 {
-    QString text = u"gcloud command failed (exit 1): ERROR: gcloud crashed (MetadataServerException)\n"_s
-                   u"Traceback (most recent call last):\n"_s;
+    QString text
+        = u"gcloud command failed (exit 1): ERROR: gcloud crashed (MetadataServerException)\n"_s
+          u"Traceback (most recent call last):\n"_s;
     for (int frame = 1; frame <= 21; ++frame) {
-        text += u"  File \"/usr/lib/google-cloud-sdk/lib/googlecloudsdk/core/module_%1.py\", line %2,"
-                u" in Run\n    response = self._connection.request(method, url, headers=headers)\n"_s
-                    .arg(frame)
-                    .arg(37 * frame);
+        text
+            += u"  File \"/usr/lib/google-cloud-sdk/lib/googlecloudsdk/core/module_%1.py\", line "
+               u"%2,"
+               u" in Run\n    response = self._connection.request(method, url, headers=headers)\n"_s
+                   .arg(frame)
+                   .arg(37 * frame);
     }
     return text + u"HTTP Error 404: Not Found"_s;
 }
 
 void openLong(Stage &stage)
 {
-    const QString email = u"a-person-with-a-very-long-name.and-department@subsidiary.of.example.com"_s;
+    const QString email
+        = u"a-person-with-a-very-long-name.and-department@subsidiary.of.example.com"_s;
     const QString project = u"a-project-whose-name-was-chosen-by-committee-in-2019-prod"_s;
     stage.world.setConfigurations(
-        { QVariantMap{ { u"name"_s, u"a-configuration-name-that-is-longer-than-the-popover-is-wide"_s },
-                       { u"project"_s, project },
-                       { u"account"_s, email },
-                       { u"impersonate"_s, u"robot-"_s + email } } },
+        { QVariantMap{
+            { u"name"_s, u"a-configuration-name-that-is-longer-than-the-popover-is-wide"_s },
+            { u"project"_s, project },
+            { u"account"_s, email },
+            { u"impersonate"_s, u"robot-"_s + email } } },
         u"a-configuration-name-that-is-longer-than-the-popover-is-wide"_s);
     stage.world.setAccounts({ email, u"second."_s + email });
     stage.world.setADC(u"impersonated_service_account"_s, project, u"robot-"_s + email);

@@ -12,13 +12,16 @@ namespace torvi {
 
 class Stage;
 
-/// One state of the popover that has a picture.
+/// One state of a view that has a picture.
 struct Scene
 {
     QString name;
     std::function<void(Stage &)> act;
 };
 
+/// Those of the popover.
 [[nodiscard]] std::vector<Scene> scenes();
+/// Those of the manager window, light and dark.
+[[nodiscard]] std::vector<Scene> managerScenes();
 
 } // namespace torvi

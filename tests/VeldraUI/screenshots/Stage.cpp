@@ -3,17 +3,19 @@
 
 #include "Stage.h"
 
+#include "VeldraUI/Style/Theme.h"
+
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
 namespace torvi {
 
 namespace {
-
-const QPoint kNowhere{ 399, 1 };
 
 QQuickItem *below(QQuickItem *item, const QString &name)
 {
@@ -37,19 +39,34 @@ Stage::Stage()
 {
     m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view.resize(400, 750);
 }
 
 void Stage::open()
 {
+    m_view.resize(400, 750);
+    load(u"PopoverView"_s);
+}
+
+void Stage::openManager(const QString &page, const QSize &size, Appearance appearance)
+{
+    m_view.resize(size);
+    load(u"ManagerWindowView"_s);
+    Theme::of(m_view).setDark(appearance == Appearance::dark);
+    click(page + u"Tab"_s);
+    QTest::mouseMove(&m_view, { m_view.width() - 1, 1 });
+    world.settle();
+}
+
+void Stage::load(const QString &view)
+{
     m_view.setInitialProperties(
         { { u"stateManager"_s, QVariant::fromValue(world.stateManager()) } });
-    m_view.setSource(QUrl(u"qrc:/qt/qml/VeldraUI/PopoverView.qml"_s));
+    m_view.setSource(QUrl(u"qrc:/qt/qml/VeldraUI/%1.qml"_s.arg(view)));
     m_view.show();
     if (!m_view.rootObject() || !QTest::qWaitForWindowActive(&m_view)) {
-        qFatal("the popover does not open");
+        qFatal("%s does not open", qPrintable(view));
     }
-    QTest::mouseMove(&m_view, kNowhere);
+    QTest::mouseMove(&m_view, { m_view.width() - 1, 1 });
     world.settle();
 }
 
@@ -89,11 +106,19 @@ void Stage::scrollTo(double y)
     item(u"scrollArea"_s)->setProperty("contentY", y);
 }
 
-/// Waits until what moves has come to rest: tool tips come after a moment, symbols turn.
+void Stage::scroll(const QString &path, int points)
+{
+    QWheelEvent event(centreOf(path), m_view.mapToGlobal(centreOf(path)), { 0, -points },
+                      { 0, -points }, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QGuiApplication::sendEvent(&m_view, &event);
+}
+
+/// Waits until what moves has come to rest: tool tips come after a moment, symbols turn. What turns
+/// for good is not waited for.
 QImage Stage::picture()
 {
     QImage picture = m_view.grabWindow();
-    for (int stillFor = 0; stillFor < 3;) {
+    for (int stillFor = 0, tries = 0; stillFor < 3 && tries < 12; ++tries) {
         QTest::qWait(250);
         const QImage next = m_view.grabWindow();
         stillFor = next == picture || world.stateManager()->isLoading() ? stillFor + 1 : 0;
@@ -104,7 +129,7 @@ QImage Stage::picture()
 
 QQuickItem *Stage::item(const QString &path) const
 {
-    QQuickItem *item = m_view.rootObject();
+    QQuickItem *item = m_view.contentItem();
     for (const QString &name : path.split(u'/')) {
         item = below(item, name);
         if (!item) {

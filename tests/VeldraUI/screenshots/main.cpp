@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
@@ -14,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// veldraui_screenshots FOLDER [SCENE...]: pictures of the popover's states, all unless named, into
+/// veldraui_screenshots FOLDER [SCENE...]: pictures of the views' states, all unless named, into
 /// FOLDER, at the scale that QT_SCALE_FACTOR says.
 int main(int argc, char **argv)
 {
@@ -25,9 +26,14 @@ int main(int argc, char **argv)
         std::fputs("usage: veldraui_screenshots FOLDER [SCENE...]\n", stderr);
         return EXIT_FAILURE;
     }
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(TORVI_ICON)));
+    QGuiApplication::setApplicationVersion(u"1.0"_s);
     const QDir folder(names.takeFirst());
     folder.mkpath(u"."_s);
-    for (const torvi::Scene &scene : torvi::scenes()) {
+    std::vector<torvi::Scene> scenes = torvi::scenes();
+    const std::vector<torvi::Scene> managerScenes = torvi::managerScenes();
+    scenes.insert(scenes.end(), managerScenes.begin(), managerScenes.end());
+    for (const torvi::Scene &scene : scenes) {
         if (!names.isEmpty() && !names.contains(scene.name)) {
             continue;
         }
