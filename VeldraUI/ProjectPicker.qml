@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Templates as T
 
 import VeldraUI.Style
 
@@ -17,7 +16,8 @@ PopUpPicker {
     signal chosen(string id)
 
     // To measure the texts of thousands of projects would take longer than to show the page.
-    implicitContentWidthPolicy: T.ComboBox.ContentItemImplicitWidth
+    measured: false
+    menuWidth: 300
     label: qsTr("Project")
     model: [qsTr("Select a project")].concat(ids)
     displayText: selectedId === "" ? qsTr("Select a project") : selectedId

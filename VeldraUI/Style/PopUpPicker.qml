@@ -10,15 +10,20 @@ import VeldraUI.Style
 
 // Chooses one of many in a menu of its own. `label` is read aloud (a FormRow shows it); `model`: the
 // texts, or objects with textRole and valueRole; currentIndex; activated(index): the user's choice.
+// It is as wide as its widest text unless that is not `measured`; the menu is at least `menuWidth`
+// wide.
 T.ComboBox {
     id: root
 
     property string label: ""
     property bool small: false
+    property bool measured: true
+    readonly property real widestText: measured && model ? widest(count) : 0
+    // An entry has a check mark before its text.
+    property real menuWidth: Math.max(120, widestText + 40)
 
-    implicitWidth: Math.max(120, implicitContentWidth + leftPadding + rightPadding)
+    implicitWidth: Math.max(120, widestText + leftPadding + rightPadding)
     implicitHeight: small ? 22 : 26
-    implicitContentWidthPolicy: T.ComboBox.WidestTextWhenCompleted
     leftPadding: 9
     rightPadding: 26
     hoverEnabled: true
@@ -66,7 +71,7 @@ T.ComboBox {
 
     popup: T.Popup {
         y: root.height + 3
-        width: Math.max(root.width, 120)
+        width: Math.max(root.width, root.menuWidth)
         implicitHeight: Math.min(contentItem.implicitHeight + 8, 260)
         margins: 4
         padding: 4
@@ -89,6 +94,19 @@ T.ComboBox {
             color: Theme.colors.popupBackground
             border.color: Theme.colors.popupBorder
         }
+    }
+
+    FontMetrics {
+        id: metrics
+
+        font: root.font
+    }
+
+    function widest(entries: int): real {
+        let width = 0
+        for (let index = 0; index < entries; ++index)
+            width = Math.max(width, metrics.advanceWidth(textAt(index)))
+        return Math.ceil(width) + 1
     }
 
     // At the release, for that is where the open menu takes Return as the choice.

@@ -105,6 +105,20 @@ Item {
             tryVerify(() => !picker.popup.visible)
         }
 
+        function test_everyFormatIsReadInFull() {
+            show()
+            const picker = find("menubarDisplay")
+            mouseClick(picker)
+            tryVerify(() => picker.popup.opened)
+
+            for (let row = 0; row < 3; ++row)
+                verify(!picker.popup.contentItem.itemAtIndex(row).contentItem.truncated, row)
+            picker.popup.close()
+            tryVerify(() => !picker.popup.visible)
+            world.storeSettings({ format: "icon_and_project_and_account" })
+            verify(!picker.contentItem.truncated)
+        }
+
         function test_theStepperStoresEachStep() {
             show()
             const stepper = find("refreshInterval")
