@@ -125,7 +125,8 @@ FocusScope {
     }
 
     Shortcut {
-        sequences: [StandardKey.PreviousChild]
+        // X11 has taken the Shift away when it says that the key is the one that goes back.
+        sequences: [StandardKey.PreviousChild, "Ctrl+Backtab"]
         onActivated: root.choose((tabBar.currentIndex + tabBar.count - 1) % tabBar.count)
     }
 
