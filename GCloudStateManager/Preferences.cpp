@@ -5,8 +5,6 @@
 
 #include "GCloudCLI/HomeDirectory.h"
 
-#include <QVariant>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -106,11 +104,14 @@ void Preferences::setInteger(const QString &key, qint64 value)
 
 void Preferences::remove(const QString &key)
 {
-    write([&](QSettings &settings) { settings.remove(key); });
+    set(key, {});
 }
 
 QVariant Preferences::value(const QString &key) const
 {
+    if (const auto change = m_unwritten.constFind(key); change != m_unwritten.constEnd()) {
+        return *change;
+    }
     if (!m_settings) {
         return {};
     }
@@ -123,24 +124,32 @@ QVariant Preferences::value(const QString &key) const
 
 void Preferences::set(const QString &key, const QVariant &value)
 {
-    write([&](QSettings &settings) { settings.setValue(key, value); });
-}
-
-void Preferences::write(const std::function<void(QSettings &)> &change)
-{
     if (!m_settings) {
         return;
     }
+    m_unwritten.insert(key, value);
     const FileDescriptor lock = m_file.beginWriting();
     if (!lock.isOpen()) {
         return;
     }
     try {
-        change(*m_settings);
-        m_settings->sync();
+        write();
     } catch (const std::bad_alloc &) { // as in value(): then nothing was written
     }
     m_file.endWriting();
+}
+
+void Preferences::write()
+{
+    for (auto change = m_unwritten.constBegin(); change != m_unwritten.constEnd(); ++change) {
+        if (change->isValid()) {
+            m_settings->setValue(change.key(), *change);
+        } else {
+            m_settings->remove(change.key());
+        }
+    }
+    m_settings->sync();
+    m_unwritten.clear();
 }
 
 } // namespace torvi

@@ -6,11 +6,12 @@
 #include "GCloudStateManager/PreferencesFile.h"
 
 #include <QByteArray>
+#include <QMap>
 #include <QSettings>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
-#include <functional>
 #include <optional>
 
 namespace torvi {
@@ -22,8 +23,8 @@ namespace torvi {
 /// killed leaves the old file or the new one.
 ///
 /// Thread: main thread only; waits for the disk, and for another process that is just writing.
-/// Errors: a file that cannot be read counts as empty; one that cannot be written stays as it is,
-/// and nobody is told.
+/// Errors: a file that cannot be read counts as empty. One that cannot be written stays as it is
+/// and nobody is told; the next change that can be written takes along what could not.
 class Preferences final
 {
 public:
@@ -53,10 +54,11 @@ public:
 private:
     [[nodiscard]] QVariant value(const QString &key) const;
     void set(const QString &key, const QVariant &value);
-    void write(const std::function<void(QSettings &)> &change);
+    void write();
 
     PreferencesFile m_file;
     std::optional<QSettings> m_settings; ///< absent when something else is in the file's place
+    QMap<QString, QVariant> m_unwritten; ///< an invalid value removes the key
 };
 
 } // namespace torvi

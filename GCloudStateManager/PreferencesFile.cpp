@@ -6,12 +6,15 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace torvi {
 
@@ -42,6 +45,24 @@ void makeLookChanged(const FileDescriptor &file)
     ::futimens(file.get(), epoch.data());
 }
 
+bool waitFor(const FileDescriptor &lock)
+{
+    int result = 0;
+    do {
+        result = ::flock(lock.get(), LOCK_EX);
+    } while (result != 0 && errno == EINTR);
+    return result == 0;
+}
+
+/// QSettings overlooks that the disk is full when it flushes, and replaces the file by what of it
+/// there was room for. So there has to be more than enough before it begins.
+bool hasRoom(const QFileInfo &file)
+{
+    constexpr qint64 kMargin = 1'000'000;
+    QTemporaryFile trial(file.exists() ? file.canonicalFilePath() : file.filePath());
+    return trial.open() && ::posix_fallocate(trial.handle(), 0, kMargin + 2 * file.size()) == 0;
+}
+
 } // namespace
 
 PreferencesFile::PreferencesFile(QString path)
@@ -59,6 +80,9 @@ bool PreferencesFile::isPlain() const
 FileDescriptor PreferencesFile::beginWriting() const
 {
     FileDescriptor lock = lockedFolder();
+    if (!hasRoom(QFileInfo(m_path))) {
+        return {};
+    }
     const FileDescriptor file(::open(QFile::encodeName(m_path).constData(),
                                      O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, kUserOnly));
     struct stat status = {};
@@ -93,7 +117,10 @@ FileDescriptor PreferencesFile::lockedFolder() const
     makeFolder(folder);
     FileDescriptor lock(
         ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    while (lock.isOpen() && ::flock(lock.get(), LOCK_EX) != 0 && errno == EINTR) { }
+    if (waitFor(lock)) {
+        // QSettings' own lock, if any, is a killed process's; it might wait for it half a minute.
+        QFile::remove(m_path + u".lock"_s);
+    }
     return lock;
 }
 

@@ -208,6 +208,18 @@ TEST_F(PreferencesFileTest, HoldsOtherProcessesOffWhileItWrites)
     EXPECT_TRUE(tryToLock());
 }
 
+TEST_F(PreferencesFileTest, DoesNotWaitForTheLockThatAKilledProcessLeft)
+{
+    tree.write("p.ini.lock", ""); // killed before it said whose it is
+    fs::last_write_time(tree.path("p.ini.lock"),
+                        fs::file_time_type::clock::now() + std::chrono::hours(1));
+
+    set("p.ini");
+
+    EXPECT_EQ(tree.read("p.ini"), "[General]\nkey=value\n");
+    EXPECT_FALSE(fs::exists(tree.path("p.ini.lock")));
+}
+
 TEST_F(PreferencesFileTest, SeesAChangeByAnotherProcessThatLeavesSizeAndTimeAsTheyWere)
 {
     Preferences preferences(path("p.ini"));
