@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include <QHash>
+#include <QMap>
 #include <QString>
 
 /// Parser of gcloud's property files, the dialect of INI that Python's configparser writes.
 namespace torvi::INIParser {
 
 /// From section name to its keys and their values.
-using Sections = QHash<QString, QHash<QString, QString>>;
+using Sections = QMap<QString, QMap<QString, QString>>;
 
 /// The sections of a property file, given its whole text. Never fails: what is neither a section
 /// header nor a "key = value" line is passed over.
