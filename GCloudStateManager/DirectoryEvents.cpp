@@ -19,6 +19,14 @@ constexpr std::uint32_t kSelf = IN_DELETE_SELF | IN_MOVE_SELF;
 constexpr std::uint32_t kNames = IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO;
 constexpr std::uint32_t kContent = IN_MODIFY | IN_CLOSE_WRITE | IN_ATTRIB;
 
+/// Whether SQLite causes it also where it only reads: it opens a write-ahead log for writing, and
+/// keeps an index of it. Who reads at each change would do so for ever.
+bool isTraceOfReading(const InotifyEvent &event)
+{
+    return event.name.ends_with(".db-shm")
+        || (event.name.ends_with(".db-wal") && (event.mask & (kNames | IN_MODIFY)) == 0);
+}
+
 fs::file_type typeOf(const std::string &path)
 {
     std::error_code error;
@@ -166,7 +174,7 @@ bool DirectoryEvents::handle(const InotifyEvent &event)
 bool DirectoryEvents::handleBelow(const std::string &directory, const InotifyEvent &event)
 {
     if ((event.mask & IN_ISDIR) == 0 || event.name.empty()) {
-        return true;
+        return !isTraceOfReading(event);
     }
     const std::string child = joinedPath(directory, event.name);
     if ((event.mask & IN_MOVED_FROM) != 0 && forgetTree(child)) {

@@ -13,7 +13,7 @@
 namespace torvi {
 
 /// Notices every change below one directory: of a file's content or attributes, of what the
-/// directories hold, of the directory itself. Reading is no change.
+/// directories hold, of the directory itself. Reading is no change, by SQLite neither.
 ///
 /// The directory may come, go and be replaced at any time, by itself or with a directory above it,
 /// or through a symbolic link on the way to it. Links below it are not followed. Directories that
