@@ -60,7 +60,11 @@ bool hasRoom(const QFileInfo &file)
 {
     constexpr qint64 kMargin = 1'000'000;
     QTemporaryFile trial(file.exists() ? file.canonicalFilePath() : file.filePath());
-    return trial.open() && ::posix_fallocate(trial.handle(), 0, kMargin + 2 * file.size()) == 0;
+    if (!trial.open()) {
+        return false;
+    }
+    const int error = ::posix_fallocate(trial.handle(), 0, kMargin + 2 * file.size());
+    return error == 0 || error == EOPNOTSUPP || error == EINVAL; // some file systems cannot tell
 }
 
 } // namespace
