@@ -39,9 +39,11 @@ void PopoverWindow::keyPressEvent(QKeyEvent *event)
 
 bool PopoverWindow::eventFilter(QObject *object, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonPress && isVisible() && object->isWindowType()
-        && object != this && static_cast<QWindow *>(object)->transientParent() != this) {
-        hide();
+    if (event->type() == QEvent::MouseButtonPress && isVisible() && object != this) {
+        const auto *window = qobject_cast<QWindow *>(object);
+        if (window != nullptr && window->transientParent() != this) {
+            hide();
+        }
     }
     return QQuickView::eventFilter(object, event);
 }

@@ -183,7 +183,7 @@ QCoro::Task<> AuthState::switchProjectAndRecord(QString projectId)
 {
     const QPointer self(this);
     co_await m_manager.switchProject(projectId);
-    if (self && hasActiveProject() && activeProjectId() == projectId) {
+    if (!self.isNull() && hasActiveProject() && activeProjectId() == projectId) {
         m_manager.recentStore().recordUsage(projectId);
     }
 }

@@ -173,7 +173,7 @@ QHash<int, QByteArray> ProjectListModel::roleNames() const
 void ProjectListModel::adoptLoading()
 {
     const bool hadNoProjects = hasNoProjects();
-    m_isLoading = m_stateManager && m_stateManager->isLoading();
+    m_isLoading = !m_stateManager.isNull() && m_stateManager->isLoading();
     if (hasNoProjects() != hadNoProjects) {
         Q_EMIT hasNoProjectsChanged();
     }

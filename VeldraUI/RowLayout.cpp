@@ -4,7 +4,6 @@
 #include "VeldraUI/RowLayout.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace torvi {
@@ -36,9 +35,18 @@ double RowLayout::height() const
 
 int RowLayout::rowAt(double y) const
 {
-    const auto rows = std::views::iota(0, m_count);
-    const auto below = std::ranges::upper_bound(rows, y, {}, [this](int row) { return top(row); });
-    return std::max(0, static_cast<int>(below - rows.begin()) - 1);
+    // The last row that starts at or above y.
+    int first = 0;
+    int last = std::max(0, m_count - 1);
+    while (first < last) {
+        const int middle = last - (last - first) / 2;
+        if (top(middle) <= y) {
+            first = middle;
+        } else {
+            last = middle - 1;
+        }
+    }
+    return first;
 }
 
 } // namespace torvi

@@ -124,6 +124,7 @@ void VisibleProjects::showRows()
 {
     const std::vector<int> wanted = wantedRows();
     std::vector<VisibleProject> next;
+    next.reserve(wanted.size());
     for (const int row : wanted) {
         next.push_back({ m_source->index(row), row, m_layout.top(row), m_revision });
     }

@@ -37,8 +37,8 @@ QString StatusNotifierItem::serviceName()
     return u"org.kde.StatusNotifierItem-%1-1"_s.arg(QCoreApplication::applicationPid());
 }
 
-StatusNotifierItem::StatusNotifierItem(const QDBusConnection &connection)
-    : m_connection(connection)
+StatusNotifierItem::StatusNotifierItem(QDBusConnection connection)
+    : m_connection(std::move(connection))
     , m_adaptor(new StatusNotifierAdaptor(&m_object))
 {
     if (!m_connection.isConnected()) {

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] static QString serviceName();
 
     /// Goes onto the bus at once. Has no button when `connection` is not connected.
-    explicit StatusNotifierItem(const QDBusConnection &connection);
+    explicit StatusNotifierItem(QDBusConnection connection);
     ~StatusNotifierItem() override;
 
     [[nodiscard]] bool hasButton() const override;
