@@ -15,6 +15,7 @@ import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "tests" / "desktop"))
 from desktop import Desktop, wait_for  # noqa: E402  (its folder has just been added)
+from table import Row, context_switches, milliseconds, timed  # noqa: E402
 
 STARTS = 15
 PROCESSES = 5
@@ -37,18 +38,12 @@ class Item:
         os.kill(self.pid, signal.SIGTERM)
         self.timer.wait(30)
 
-    def switches(self):
-        """How often any of its threads was woken so far."""
-        return sum(int(count)
-                   for status in pathlib.Path(f"/proc/{self.pid}/task").glob("*/status")
-                   for count in re.findall(r"ctxt_switches:\s+(\d+)", status.read_text()))
-
     def settle(self):
         """Returns when it has done nothing for half a second."""
         def is_still():
-            before = self.switches()
+            before = context_switches(self.pid)
             time.sleep(0.5)
-            return self.switches() == before
+            return context_switches(self.pid) == before
         wait_for(is_still, "an idle program")
 
     def memory(self):
@@ -57,15 +52,25 @@ class Item:
         return int(re.search(r"^Pss:\s+(\d+)", rollup, re.MULTILINE)[1])
 
     def wakeups(self):
-        before = self.switches()
+        before = context_switches(self.pid)
         time.sleep(IDLE_SECONDS)
-        return self.switches() - before
+        return context_switches(self.pid) - before
 
     def click(self):
         subprocess.run(["gdbus", "call", "--session", "-d",
                         f"org.kde.StatusNotifierItem-{self.pid}-1", "-o", "/StatusNotifierItem",
                         "-m", "org.kde.StatusNotifierItem.Activate", "600", "10"],
                        env=self.environment, stdout=subprocess.DEVNULL, check=True)
+
+
+def megabytes(kilobytes):
+    """As a text of three digits."""
+    return f"{kilobytes / 1e3:.3g} MB"
+
+
+def framed(title, took_ms, goal_ms):
+    """The row of something that ends with a frame on the screen."""
+    return Row(title, milliseconds(took_ms * 1e3), "–", "–", f"{goal_ms} ms", took_ms <= goal_ms)
 
 
 def start_rows(desktop, binaries):
@@ -79,25 +84,28 @@ def start_rows(desktop, binaries):
             took[program].append(item.took_us)
             memory[program].append(item.memory())
             item.close()
-    work, floor = map(statistics.median, took.values())
-    yield "`torvi`, exec until its item is on the bus", work, floor, "at most 1.5 times", work / floor
+    yield timed("`torvi`, exec until its item is on the bus", *map(statistics.median, took.values()),
+                "at most 1.5 times", 1.5)
     work, floor = map(statistics.median, memory.values())
-    yield "… memory, popover never opened (MB)", work, floor, "at most 1.3 times", work / floor
+    yield Row("… memory, popover never opened", megabytes(work), megabytes(floor),
+              f"{work / floor:.3g}", "at most 1.3 times", work / floor <= 1.3)
 
 
 def idle_rows(desktop, binaries):
-    """A minute of nothing, with the popover closed and open; the count stands for milliseconds."""
+    """A minute of nothing, with the popover closed and open."""
+    def row(state):
+        count = item.wakeups()
+        return Row(f"`torvi`, popover {state}, idle for {IDLE_SECONDS} s",
+                   f"{count} context switches", "0", "–", "no wake-up", count == 0)
+
     item = Item(desktop, binaries, "torvi")
     item.settle()
-    closed = item.wakeups()
+    yield row("never opened")
     item.click()
     wait_for(desktop.popover, "the popover")
     item.settle()
-    opened = item.wakeups()
+    yield row("open")
     item.close()
-    title = f"`torvi`, idle for {IDLE_SECONDS} s, popover %s (wake-ups)"
-    yield title % "never opened", closed * 1e3, None, "0", None
-    yield title % "open", opened * 1e3, None, "0", None
 
 
 def popover_rows(desktop, binaries):
@@ -107,25 +115,30 @@ def popover_rows(desktop, binaries):
                               env=desktop.environment, stdout=subprocess.PIPE, check=True)
         return json.loads(done.stdout)
 
-    empty = measured(0)
-    runs = [measured(MANY) for _ in range(PROCESSES)]
-
     def median(name, of="median"):
-        return statistics.median(run[name][of] if of else run[name] for run in runs) * 1e3
+        return statistics.median(run[name][of] for run in runs)
 
-    with_many = f"with {MANY:,} projects"
-    yield f"popover, first in the process, {with_many}", median("first", None), None, "100 ms", None
-    yield "… without projects", empty["first"] * 1e3, None, "100 ms", None
-    yield f"popover, warm, {with_many}", median("warm"), None, "33 ms", None
-    yield "a key in the filter: the model's work", median("filtering"), None, "1 ms", None
-    yield "… worst key", median("filtering", "max"), None, "", None
-    yield "a key in the filter, until its frame", median("typing"), None, "16.7 ms", None
-    yield "… worst key", median("typing", "max"), None, "", None
-    yield "a far jump, until its frame", median("jump"), None, "33 ms", None
-    alive, on_screen = median("alive", None), median("onScreen", None)
-    yield "delegates alive / on screen (count)", alive, on_screen, "at most 2 times", alive / on_screen
-    beyond = median("memory", None) / 1e3 - empty["memory"]
-    yield f"memory beyond the empty popover, {with_many} (MB)", beyond, None, "at most 12 MB", None
+    empties = [measured(0) for _ in range(PROCESSES)]
+    runs = [measured(MANY) for _ in range(PROCESSES)]
+    projects = f"{MANY:,} projects"
+    yield framed("popover, first in the process, no project",
+                 statistics.median(run["first"] for run in empties), 100)
+    yield framed(f"… {projects}", statistics.median(run["first"] for run in runs), 100)
+    yield framed(f"popover, warm, {projects}", median("warm"), 33)
+    yield framed("… slowest", median("warm", "max"), 33)
+    yield framed("a key in the filter, the model's work", median("filtering"), 1)
+    yield framed("… slowest key", median("filtering", "max"), 1)
+    yield framed("a key in the filter, until its frame", median("typing"), 16.7)
+    yield framed("… slowest key", median("typing", "max"), 16.7)
+    yield framed("a far jump, until its frame", median("jump"), 33)
+    yield framed("… slowest jump", median("jump", "max"), 33)
+    alive, on_screen = runs[0]["alive"], runs[0]["onScreen"]
+    yield Row(f"delegates alive, against rows on screen, {projects}", str(alive), str(on_screen),
+              f"{alive / on_screen:.3g}", "at most 2 times", alive <= 2 * on_screen)
+    beyond = statistics.median(run["memory"] for run in runs) \
+        - statistics.median(run["memory"] for run in empties)
+    yield Row(f"memory beyond the empty popover, {projects}", megabytes(beyond), "–", "–",
+              "at most 12 MB", beyond <= 12_000)
 
 
 def rows(binaries):

@@ -18,35 +18,12 @@ import subprocess
 import sys
 import tempfile
 import time
-from typing import NamedTuple
+
+import desktop_rows
+from table import Row, context_switches, milliseconds, timed
 
 DRAIN_US = 100_000
 IDLE_SECONDS = 60
-
-
-class Row(NamedTuple):
-    """One line of the table."""
-
-    work: str
-    measured: str
-    floor: str
-    ratio: str
-    goal: str
-    met: bool
-
-
-def milliseconds(microseconds):
-    """As a text of three digits."""
-    return f"{float(f'{microseconds / 1e3:.3g}'):g} ms"
-
-
-def timed(title, work, floor, goal, most=float("inf"), most_us=float("inf")):
-    """The row of a work and its floor, both in microseconds."""
-    return Row(title, milliseconds(work), milliseconds(floor), f"{work / floor:.3g}", goal,
-               work / floor <= most and work < most_us)
-
-
-DRAIN_US = 100_000
 
 
 def wall_us(command, environment):
@@ -81,13 +58,6 @@ def peak_bytes(program, name):
                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     _, _, usage = os.wait4(child.pid, 0)
     return usage.ru_maxrss * 1024
-
-
-def context_switches(pid):
-    """How often any thread of the process has run."""
-    return sum(int(line.split()[1])
-               for status in pathlib.Path(f"/proc/{pid}/task").glob("*/status")
-               for line in status.read_text().splitlines() if "ctxt_switches" in line)
 
 
 def idle_row(command, environment):
@@ -160,7 +130,8 @@ def memory_row(program):
 def main(binaries, results):
     binaries = pathlib.Path(binaries)
     program = binaries / "LogicBenchmarks"
-    rows = [*process_rows(binaries), *logic_rows(program), memory_row(program)]
+    rows = [*process_rows(binaries), *logic_rows(program), memory_row(program),
+            *desktop_rows.rows(binaries)]
     lines = ["# Measured speeds", "",
              f"Written by `./dev bench` on {os.cpu_count()} processors, at a load of "
              f"{os.getloadavg()[1]:.1f}. Figures are medians; each floor was measured in the same "
