@@ -28,6 +28,7 @@ constexpr uint kPrefersDark = 1;
 ColorScheme::ColorScheme(QDBusConnection connection)
     : m_connection(std::move(connection))
 {
+    qRegisterMetaType<QDBusVariant>(); // by its name the connection finds the slot
     m_connection.connect(kService, kPath, kInterface, u"SettingChanged"_s, this,
                          SLOT(onSettingChanged(QString, QString, QDBusVariant)));
     ask();
