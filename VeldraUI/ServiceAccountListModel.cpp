@@ -14,11 +14,11 @@ namespace torvi {
 
 namespace {
 
-std::vector<ServiceAccountRow> rowsOf(const QList<ServiceAccount> &saved,
-                                      const QList<ServiceAccount> &discovered)
+QList<ServiceAccountRow> rowsOf(const QList<ServiceAccount> &saved,
+                                const QList<ServiceAccount> &discovered)
 {
-    std::vector<ServiceAccountRow> rows;
-    rows.reserve(static_cast<std::size_t>(saved.size() + discovered.size()));
+    QList<ServiceAccountRow> rows;
+    rows.reserve(saved.size() + discovered.size());
     QSet<QString> savedEmails;
     for (const ServiceAccount &account : saved) {
         savedEmails.insert(account.email);
@@ -176,10 +176,9 @@ void ServiceAccountListModel::update()
     const QList<ServiceAccount> saved = m_stateManager
         ? m_stateManager->manager().serviceAccountStore().serviceAccounts(m_projectId)
         : QList<ServiceAccount>();
-    std::vector<ServiceAccountRow> next = rowsOf(saved, m_discovered);
-    const std::vector<int> nextRows = nextRowsByIdentity(rows(), next, &identityOf);
+    const QList<ServiceAccountRow> next = rowsOf(saved, m_discovered);
     m_savedCount = static_cast<int>(saved.size());
-    change(std::move(next), nextRows);
+    change({ next.begin(), next.end() }, nextRowsByIdentity(rows(), next, &identityOf));
     Q_EMIT changed();
 }
 

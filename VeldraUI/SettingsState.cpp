@@ -32,7 +32,7 @@ void SettingsState::setLaunchAtLogin(bool launchAtLogin)
 
 int SettingsState::menubarDisplayFormat() const
 {
-    const auto place = std::find(kFormats.begin(), kFormats.end(), m_store.menubarDisplayFormat());
+    const auto *place = std::find(kFormats.begin(), kFormats.end(), m_store.menubarDisplayFormat());
     return static_cast<int>(place - kFormats.begin());
 }
 

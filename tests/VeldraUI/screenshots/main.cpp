@@ -40,7 +40,7 @@ int main(int argc, char **argv)
         torvi::Stage stage;
         scene.act(stage);
         const QImage picture = stage.picture();
-        const QString name = u"%1@%2x.png"_s.arg(scene.name).arg(picture.devicePixelRatio());
+        const QString name = u"%1@%2x.png"_s.arg(scene.name).arg(application.devicePixelRatio());
         if (!picture.save(folder.filePath(name))) {
             return EXIT_FAILURE;
         }
