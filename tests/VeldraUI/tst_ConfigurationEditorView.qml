@@ -308,6 +308,19 @@ Item {
             verify(world.stateManager.hasError)
         }
 
+        function test_thePageMayGoWhileAConfigurationIsBeingCreated() {
+            showThree()
+            openSheet()
+            type("x")
+            world.expect("createConfiguration", "x")
+            mouseClick(inSheet("createButton"))
+            world.settle()
+            shown.destroy()
+            shown = null
+            wait(0)
+            world.finish()
+        }
+
         function test_returnInTheFieldCreates() {
             showThree()
             openSheet()

@@ -447,6 +447,17 @@ Item {
             compare(shown.selectedProjectId, "p2")
         }
 
+        function test_thePageMayGoWhileADiscoveryRuns() {
+            world.signIn("a@x", "p1")
+            world.expect("listServiceAccounts", "p1")
+            show()
+            world.settle()
+            shown.destroy()
+            shown = null
+            wait(0)
+            world.finish(listing(["b@x"]))
+        }
+
         function test_fiveHundredAccountsCostWhatIsOnScreen() {
             const emails = []
             for (let number = 0; number < 500; ++number)
