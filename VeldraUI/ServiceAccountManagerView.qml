@@ -19,13 +19,11 @@ Item {
     readonly property bool isLoadingAccounts: accounts.isLoading
     readonly property bool discoveryFailed: accounts.discoveryFailed
 
-    readonly property real inset: 12
     readonly property bool hasProject: selectedProjectId !== ""
     readonly property bool hasAccounts: accounts.savedCount + accounts.discoveredCount > 0
-    readonly property bool canAdd: newEmail !== "" && hasProject
 
     onSelectedProjectIdChanged: if (selectedProjectId !== "") accounts.discover(selectedProjectId)
-    onHasAccountsChanged: if (!hasAccounts && list.activeFocus) emailField.forceActiveFocus(Qt.TabFocusReason)
+    onHasAccountsChanged: if (!hasAccounts && list.activeFocus) addForm.takeKeyboard()
 
     Component.onCompleted: if (selectedProjectId === "") selectedProjectId = stateManager.activeProjectId
 
@@ -36,51 +34,17 @@ Item {
         projectId: root.selectedProjectId
     }
 
-    Item {
+    ServiceAccountBar {
         id: topBar
 
         objectName: "topBar"
         width: root.width
-        height: projectPicker.height + 2 * root.inset
+        stateManager: root.stateManager
+        selectedProjectId: root.selectedProjectId
+        selectedMode: root.selectedMode
 
-        StyledText {
-            id: projectLabel
-
-            objectName: "projectLabel"
-            anchors.verticalCenter: parent.verticalCenter
-            x: root.inset
-            text: qsTr("Project:")
-            textStyle: Typography.callout
-        }
-
-        ProjectPicker {
-            id: projectPicker
-
-            objectName: "projectPicker"
-            anchors.verticalCenter: parent.verticalCenter
-            x: projectLabel.x + projectLabel.width + 8
-            width: Math.max(80, Math.min(300, parent.width - root.inset - modePicker.width - 12 - x))
-            small: true
-            ids: root.stateManager.projectIds
-            selectedId: root.selectedProjectId
-
-            onChosen: id => root.selectedProjectId = id
-        }
-
-        SegmentedPicker {
-            id: modePicker
-
-            objectName: "modePicker"
-            anchors.verticalCenter: parent.verticalCenter
-            x: projectPicker.x + projectPicker.width + 12
-            width: Math.min(250, implicitWidth)
-            label: qsTr("Mode")
-            model: root.stateManager.modeTexts
-            currentIndex: root.selectedMode
-            small: true
-
-            onActivated: index => root.selectedMode = index
-        }
+        onProjectChosen: id => root.selectedProjectId = id
+        onModeChosen: mode => root.selectedMode = mode
     }
 
     Divider {
@@ -184,58 +148,22 @@ Item {
         width: root.width
     }
 
-    Item {
+    ServiceAccountForm {
         id: addForm
 
         objectName: "addForm"
         y: root.height - height
         width: root.width
-        height: addButton.height + 2 * root.inset
+        email: root.newEmail
+        displayName: root.newDisplayName
+        canAdd: root.newEmail !== "" && root.hasProject
 
-        RoundedField {
-            id: emailField
-
-            objectName: "emailField"
-            anchors.verticalCenter: parent.verticalCenter
-            x: root.inset
-            width: labelField.x - 8 - x
-            placeholderText: qsTr("Service account email")
-            text: root.newEmail
-
-            onTextEdited: root.newEmail = text
-            onAccepted: root.add()
-        }
-
-        RoundedField {
-            id: labelField
-
-            objectName: "labelField"
-            anchors.verticalCenter: parent.verticalCenter
-            x: addButton.x - 8 - width
-            width: 150
-            placeholderText: qsTr("Label (optional)")
-            text: root.newDisplayName
-
-            onTextEdited: root.newDisplayName = text
-            onAccepted: root.add()
-        }
-
-        BorderedButton {
-            id: addButton
-
-            objectName: "addButton"
-            anchors.verticalCenter: parent.verticalCenter
-            x: parent.width - root.inset - width
-            enabled: root.canAdd
-            text: qsTr("Add")
-
-            onClicked: root.add()
-        }
+        onEmailEdited: newEmail => root.newEmail = newEmail
+        onDisplayNameEdited: newName => root.newDisplayName = newName
+        onAdd: root.add()
     }
 
     function add() {
-        if (!canAdd)
-            return
         accounts.add(newEmail, newDisplayName)
         newEmail = ""
         newDisplayName = ""
