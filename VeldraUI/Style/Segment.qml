@@ -7,13 +7,18 @@ import QtQuick.Templates as T
 import VeldraUI.Style
 
 // One choice of a SegmentedPicker. stepped(by): an arrow key, to the neighbour before or after.
-T.AbstractButton {
+// A radio button, since a template tells assistive technology its own role whatever is set here.
+T.RadioButton {
     id: root
 
     property bool small: false
     property bool separated: false
 
     signal stepped(int by)
+
+    // The picker says which one is checked.
+    checkable: false
+    autoExclusive: false
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: small ? 22 : 26
@@ -66,4 +71,5 @@ T.AbstractButton {
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.onPressAction: if (enabled) clicked()
+    Accessible.onToggleAction: if (enabled) clicked()
 }

@@ -306,8 +306,8 @@ class Desktop:
     def wait_for_empty_panel(self):
         wait_for(lambda: self._items_in_panel() is None, "an empty panel")
 
-    def clipboard(self):
-        return self.run("xclip", "-o", "-selection", "clipboard")
+    def clipboard(self, target="UTF8_STRING"):
+        return self.run("xclip", "-o", "-selection", "clipboard", "-target", target)
 
     def picture(self, name):
         """Keeps a picture of the screen where TORVI_PICTURES says; for people to look at."""
