@@ -42,7 +42,8 @@ T.Button {
 
     Accessible.role: Accessible.Button
     Accessible.name: text !== "" ? text : help
-    Accessible.description: help
+    // There is no accessible state for what is disabled.
+    Accessible.description: [help, enabled ? "" : qsTr("unavailable")].filter(part => part !== "").join(", ")
     Accessible.onPressAction: if (enabled) clicked()
 
     HelpTip {

@@ -57,6 +57,12 @@ class OpenPopover:
             (node for node in self.root.walk() if node.name == name and node.role == role
              and node.states.issuperset(states)), None))
 
+    def find_anywhere(self, name, role=BUTTON):
+        """The same, but also what is scrolled away."""
+        return self.look(lambda: next(
+            (node for node in self.root.walk(everything=True)
+             if node.name == name and node.role == role and node.extents[2] > 0), None))
+
     def wait(self, name, role=BUTTON, *states):
         return wait_for(lambda: self.find(name, role, *states), f"{role} {name} {states}")
 
@@ -72,8 +78,13 @@ class OpenPopover:
         """What stands in the field of that name."""
         return self.look(lambda: self.find(name, FIELD).text)
 
+    def wait_until_available(self, name):
+        """Returns when that button can be pressed."""
+        wait_for(lambda: "unavailable" not in self.look(lambda: self.find_anywhere(name)
+                                                        .description), f"{name} to be available")
+
     def wait_until_loaded(self):
-        self.wait("Refresh", BUTTON, "sensitive")
+        self.wait_until_available("Refresh")
         wait_for(self.rows, "the projects")
 
     # The mouse
@@ -98,9 +109,8 @@ class OpenPopover:
         return wait_for(look, f"{role} {name} in view")
 
     def _place(self, name, role):
-        return self.look(lambda: next(
-            (node.middle for node in self.root.walk(everything=True)
-             if node.name == name and node.role == role and node.extents[2] > 0), None))
+        node = self.find_anywhere(name, role)
+        return self.look(lambda: node.middle) if node else None
 
     def _turn_wheel(self, turns):
         x, y = self.desktop.popover()
@@ -113,9 +123,10 @@ class OpenPopover:
 
     def focused(self):
         """The name of what the keyboard is on."""
-        return self.look(lambda: next(
-            (node.name for node in self.root.walk()
-             if "focused" in node.states and node.role != "panel"), None))
+        # What is around it says that it is focused too.
+        names = self.look(lambda: [node.name for node in self.root.walk()
+                                   if "focused" in node.states and node.role != "panel"])
+        return names[-1] if names else None
 
     def type(self, text):
         self.desktop.run("xdotool", "type", "--delay", "1", text, check=True)
@@ -160,6 +171,10 @@ class DemoWorldTestCase(DesktopTestCase):
         self.desktop.click(self.desktop.item_position())
         self.wait_for_popover()
         return OpenPopover(self.desktop, self.torvi)
+
+    def control(self, name, role=BUTTON):
+        """A control, be it scrolled away or not."""
+        return wait_for(lambda: self.popover.find_anywhere(name, role), f"{role} {name}")
 
     # What happened, by gcloud's own account
 

@@ -80,7 +80,7 @@ class ImpersonationTest(DemoWorldTestCase):
         self.popover.click("CLI Only", SEGMENT)
         self.popover.click("SA email", FIELD)
         self.popover.type(f" {email} ")
-        self.popover.wait("Go", BUTTON, "sensitive")
+        self.popover.wait_until_available("Go")
         self.popover.click("Go")
 
         self.wait_for_property("auth", "impersonate_service_account", email)
@@ -148,7 +148,8 @@ class CredentialsTest(DemoWorldTestCase):
         wait_for(lambda: button.name == "Copied!", "the confirmation")
         self.assertRegex(self.desktop.clipboard(), r"^[\w-]+\.[\w-]+\.[\w-]+$")
         self.assertEqual(self.desktop.clipboard("x-kde-passwordManagerHint"), "secret")
-        self.popover.wait("Copy Identity Token", BUTTON, "sensitive")
+        wait_for(lambda: button.name == "Copy Identity Token", "its end")
+        self.popover.wait_until_available("Copy Identity Token")
 
 
 class ProjectsTest(DemoWorldTestCase):
@@ -192,7 +193,7 @@ class FooterTest(DemoWorldTestCase):
         self.popover.click("Refresh")
 
         wait_for(lambda: button.name == "Done", "the confirmation")
-        self.popover.wait("Refresh", BUTTON, "sensitive")
+        wait_for(lambda: button.name == "Refresh", "its end")
 
     def test_the_manager_opens_in_place_of_the_popover(self):
         self.popover.click("Manager")

@@ -78,6 +78,7 @@ Item {
             mouseClick(data.button)
             data.button.Accessible.pressAction()
             compare(window.presses, 0)
+            verify(data.button.Accessible.description.endsWith("unavailable"))
         }
 
         function test_showsTheRingForTheKeyboardOnly_data() { return all_data() }
