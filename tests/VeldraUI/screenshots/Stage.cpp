@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace torvi {
@@ -103,7 +105,9 @@ void Stage::type(const QString &text)
 
 void Stage::scrollTo(double y)
 {
-    item(u"scrollArea"_s)->setProperty("contentY", y);
+    QQuickItem *area = item(u"scrollArea"_s);
+    const double end = area->property("contentHeight").toDouble() - area->height();
+    area->setProperty("contentY", std::clamp(y, 0.0, std::max(0.0, end)));
 }
 
 void Stage::scroll(const QString &path, int points)
@@ -121,7 +125,7 @@ QImage Stage::picture()
     for (int stillFor = 0, tries = 0; stillFor < 3 && tries < 12; ++tries) {
         QTest::qWait(250);
         const QImage next = m_view.grabWindow();
-        stillFor = next == picture || world.stateManager()->isLoading() ? stillFor + 1 : 0;
+        stillFor = next == picture ? stillFor + 1 : 0;
         picture = next;
     }
     return picture;
