@@ -39,6 +39,7 @@ class OpenPopover:
         address = desktop.environment["DBUS_SESSION_BUS_ADDRESS"]
         self.root = wait_for(lambda: accessibility.connect(address, torvi.pid),
                              "the accessibility tree")
+        self.x, self.y = wait_for(desktop.popover, "the popover's place")
 
     # Looking
 
@@ -101,10 +102,9 @@ class OpenPopover:
             before, last = last, self._place(name, role)
             if last is None:
                 return None
-            _, top = self.desktop.popover()
-            if name in FOOTER or top + 12 < last[1] < top + VIEWPORT - 12:
+            if name in FOOTER or self.y + 12 < last[1] < self.y + VIEWPORT - 12:
                 return last if last == before else None
-            self._turn_wheel((last[1] - top - VIEWPORT // 2) // WHEEL)
+            self._turn_wheel((last[1] - self.y - VIEWPORT // 2) // WHEEL)
             return None
         return wait_for(look, f"{role} {name} in view")
 
@@ -113,10 +113,9 @@ class OpenPopover:
         return self.look(lambda: node.middle) if node else None
 
     def _turn_wheel(self, turns):
-        x, y = self.desktop.popover()
         button = "5" if turns >= 0 else "4"
         # Over the edge of the contents, where nothing shows itself under the pointer.
-        self.desktop.run("xdotool", "mousemove", str(x + 4), str(y + 300), "click", "--repeat",
+        self.desktop.run("xdotool", "mousemove", str(self.x + 4), str(self.y + 300), "click", "--repeat",
                          str(max(1, abs(turns))), "--delay", "1", button, check=True)
 
     # The keyboard
