@@ -35,8 +35,9 @@ class Node:
             return self._bus.call_sync(self._owner, self._path, interface, method, arguments, None,
                                        Gio.DBusCallFlags.NONE, PATIENCE, None).unpack()
         except GLib.Error as error:
-            if error.matches(Gio.DBusError.quark(), Gio.DBusError.UNKNOWN_OBJECT):
-                raise Gone(self._path) from error
+            for gone in (Gio.DBusError.UNKNOWN_OBJECT, Gio.DBusError.UNKNOWN_INTERFACE):
+                if error.matches(Gio.DBusError.quark(), gone):
+                    raise Gone(self._path) from error
             raise
 
     def _property(self, interface, name):
