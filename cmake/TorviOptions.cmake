@@ -19,6 +19,7 @@ if(TORVI_SANITIZE)
     add_link_options(-fsanitize=${TORVI_SANITIZE})
     # Its run time opens a pipe to look at an object, and some tests leave no descriptor to be had.
     add_compile_options(-fno-sanitize=vptr)
+    set(TORVI_QML_OPTIONS NO_CACHEGEN) # the code that Qt makes of QML is no code of ours
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         add_compile_options(-fno-sanitize=function) # clang 14 cannot compile coroutines with it
     endif()

@@ -39,6 +39,13 @@ protected:
         reader->properties[u"default"_s].project = u"labs"_s;
     }
 
+    void TearDown() override
+    {
+        delegate.reset();
+        watcher->stream.finish();
+        processEvents();
+    }
+
     /// Starts the application, with the first refresh done.
     void launch()
     {
