@@ -320,15 +320,17 @@ class Desktop:
             self.run("import", "-window", "root", os.path.join(folder, name + ".png"), check=True)
 
     def wait_for_still_picture(self):
-        """Returns when nothing on the screen moves any more."""
+        """Returns when nothing on the screen moves any more, a progress indicator included."""
+        looks_alike = 0
         last = None
 
         def look():
-            nonlocal last
+            nonlocal last, looks_alike
             before = last
             last = subprocess.run(["import", "-window", "root", "ppm:-"], env=self.environment,
                                   capture_output=True, timeout=PATIENCE, check=True).stdout
-            return last == before
+            looks_alike = looks_alike + 1 if last == before else 0
+            return looks_alike == 10
         wait_for(look, "a still picture")
 
     # Acting
