@@ -3,26 +3,13 @@
 
 #include "Torvi/StatusToolTip.h"
 
+#include "VeldraUI/ADCStatus.h"
+
 using namespace Qt::StringLiterals;
 
 namespace torvi {
 
 namespace {
-
-QString adcLabel(ADCType type)
-{
-    switch (type) {
-    case ADCType::userCredentials:
-        return u"User credentials"_s;
-    case ADCType::serviceAccountKey:
-        return u"Service account key"_s;
-    case ADCType::impersonatedServiceAccount:
-        return u"Impersonated SA"_s;
-    case ADCType::none:
-        return u"Not configured"_s;
-    }
-    Q_UNREACHABLE();
-}
 
 template <typename Record>
 QString textOf(const std::optional<Record> &record, QString Record::*field)
@@ -40,7 +27,7 @@ QString textFor(const AuthContext &context)
     if (context.impersonatedServiceAccount) {
         lines.append(u"Impersonating: "_s + context.impersonatedServiceAccount->email);
     }
-    lines.append(u"ADC: "_s + adcLabel(context.adcState.type));
+    lines.append(u"ADC: "_s + ADCStatus(context.adcState).summary());
     return lines.join(u'\n');
 }
 
