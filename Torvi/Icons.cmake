@@ -10,8 +10,6 @@ set(own_icons ${PROJECT_SOURCE_DIR}/packaging/icons)
 foreach(icon scalable/apps/com.veldra.Torvi.svg symbolic/apps/com.veldra.Torvi-symbolic.svg)
     configure_file(${own_icons}/hicolor/${icon} ${TORVI_ICONS}/hicolor/${icon} COPYONLY)
 endforeach()
-qt_add_resources(Torvi application_icon PREFIX /torvi BASE ${own_icons}/hicolor/scalable/apps
-    FILES ${own_icons}/hicolor/scalable/apps/com.veldra.Torvi.svg)
 
 # The status item's symbols, as symbolic icons.
 find_path(TORVI_BOOTSTRAP_ICONS cloud-fill.svg

@@ -3,7 +3,7 @@
 
 #include "Torvi/StatusToolTip.h"
 
-#include "VeldraUI/ADCStatus.h"
+#include "VeldraUI/ADCWords.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +27,7 @@ QString textFor(const AuthContext &context)
     if (context.impersonatedServiceAccount) {
         lines.append(u"Impersonating: "_s + context.impersonatedServiceAccount->email);
     }
-    lines.append(u"ADC: "_s + ADCStatus(context.adcState).summary());
+    lines.append(u"ADC: "_s + ADCWords::summary(context.adcState.type));
     return lines.join(u'\n');
 }
 

@@ -3,6 +3,8 @@
 
 #include "VeldraUI/ADCStatus.h"
 
+#include "VeldraUI/ADCWords.h"
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -21,17 +23,7 @@ bool ADCStatus::isConfigured() const
 
 QString ADCStatus::summary() const
 {
-    switch (m_state.type) {
-    case ADCType::userCredentials:
-        return u"User credentials"_s;
-    case ADCType::serviceAccountKey:
-        return u"Service account key"_s;
-    case ADCType::impersonatedServiceAccount:
-        return u"Impersonated SA"_s;
-    case ADCType::none:
-        return u"Not configured"_s;
-    }
-    Q_UNREACHABLE();
+    return ADCWords::summary(m_state.type);
 }
 
 QString ADCStatus::description() const

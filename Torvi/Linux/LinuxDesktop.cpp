@@ -6,9 +6,9 @@
 #include "Torvi/Linux/ActivationToken.h"
 #include "Torvi/Linux/MissingPanelHint.h"
 #include "Torvi/Linux/StatusNotifierItem.h"
-#include "VeldraUI/Style/Theme.h"
 
-#include <QQuickWindow>
+#include <QGuiApplication>
+#include <QWindow>
 
 #include <utility>
 
@@ -24,11 +24,19 @@ void bringToFront(QWindow &window)
     });
 }
 
-void followColorScheme(const ColorScheme &scheme, QQuickWindow &window)
+void followColorScheme(const ColorScheme &scheme, QWindow &window,
+                       const std::function<void(bool)> &setDark)
 {
-    const auto follow = [&scheme, &window] { Theme::of(window).setDark(scheme.isDark()); };
+    const auto follow = [&scheme, setDark] { setDark(scheme.isDark()); };
     QObject::connect(&scheme, &ColorScheme::changed, &window, follow);
     follow();
+}
+
+/// From the event loop: it may not be running yet.
+void endWithFailure()
+{
+    QMetaObject::invokeMethod(
+        qGuiApp, [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
 }
 
 } // namespace
@@ -37,8 +45,15 @@ LinuxDesktop::LinuxDesktop(QDBusConnection connection, Say say)
     : m_connection(std::move(connection))
     , m_say(std::move(say))
     , m_colorScheme(m_connection)
-    , m_views(m_clipboard, &bringToFront,
-              [this](QQuickWindow &window) { followColorScheme(m_colorScheme, window); })
+    , m_views(LoadedViews::module(QCoreApplication::applicationDirPath()),
+              { m_clipboard, &bringToFront,
+                [this](QWindow &window, const std::function<void(bool)> &setDark) {
+                    followColorScheme(m_colorScheme, window, setDark);
+                } },
+              [this](const QString &message) {
+                  m_say(message);
+                  endWithFailure();
+              })
 {
 }
 

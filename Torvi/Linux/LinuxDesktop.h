@@ -8,7 +8,7 @@
 #include "Torvi/Linux/GlobalEventMonitor.h"
 #include "Torvi/Linux/SystemClipboard.h"
 #include "Torvi/Linux/TaskListPolicy.h"
-#include "Torvi/QuickViewFactory.h"
+#include "Torvi/LoadedViews.h"
 
 #include <QDBusConnection>
 
@@ -20,7 +20,8 @@ class LinuxDesktop final : public Desktop
 public:
     using Say = std::function<void(const QString &)>;
 
-    /// `connection` is the session bus. `say` gets what the user should know about the desktop.
+    /// `connection` is the session bus. `say` gets what the user should know about the desktop. The
+    /// application ends with 1 when its windows cannot be loaded.
     LinuxDesktop(QDBusConnection connection, Say say);
 
     [[nodiscard]] Clipboard &clipboard();
@@ -37,7 +38,7 @@ private:
     ColorScheme m_colorScheme;
     GlobalEventMonitor m_globalEvents;
     TaskListPolicy m_activationPolicy;
-    QuickViewFactory m_views;
+    LoadedViews m_views;
 };
 
 } // namespace torvi

@@ -44,9 +44,8 @@ QQuickItem *below(const QQuickItem *item, const QString &name)
 } // namespace
 
 PopoverStage::PopoverStage(int projectCount)
-    : m_views(
-        m_clipboard, [](QWindow &window) { window.requestActivate(); },
-        [](QQuickWindow & /*window*/) {})
+    : m_views({ m_clipboard, [](QWindow &window) { window.requestActivate(); },
+                [](QWindow & /*window*/, const auto & /*setDark*/) {} })
 {
     makeSampleDirectory(m_directory.path(), 5, 5);
     const auto preferences = std::make_shared<Preferences>();

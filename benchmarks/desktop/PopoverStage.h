@@ -5,7 +5,7 @@
 
 #include "GCloudStateManager/AuthStateManager.h"
 #include "Torvi/Linux/SystemClipboard.h"
-#include "Torvi/QuickViewFactory.h"
+#include "Torvi/Quick/QuickViewFactory.h"
 
 #include <QQuickItem>
 #include <QQuickView>

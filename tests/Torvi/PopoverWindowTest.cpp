@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "Torvi/QuickPopover.h"
+#include "Torvi/Quick/QuickPopover.h"
 #include "tests/support/WaitUntil.h"
 
 #include <QGuiApplication>

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace torvi {
 
-struct ADCWords
+struct KindWords
 {
     const char *name;
     ADCType type;
@@ -20,7 +20,7 @@ struct ADCWords
     bool isConfigured;
 };
 
-class ADCStatusWordsTest : public testing::TestWithParam<ADCWords>
+class ADCStatusWordsTest : public testing::TestWithParam<KindWords>
 {
 };
 
@@ -37,17 +37,17 @@ TEST_P(ADCStatusWordsTest, EachViewHasItsOwn)
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, ADCStatusWordsTest,
-    testing::Values(ADCWords{ "User", ADCType::userCredentials, u"User credentials"_s,
-                              u"User credentials"_s, u"person.badge.key"_s,
-                              u"User Credentials (authorized_user)"_s, true },
-                    ADCWords{ "Key", ADCType::serviceAccountKey, u"Service account key"_s,
-                              u"Service account key"_s, u"key.fill"_s, u"Service Account Key"_s,
-                              true },
-                    ADCWords{ "Impersonated", ADCType::impersonatedServiceAccount,
-                              u"Impersonated SA"_s, u"Impersonated service account"_s,
-                              u"bolt.badge.a"_s, u"Impersonated Service Account"_s, true },
-                    ADCWords{ "None", ADCType::none, u"Not configured"_s, u"Not configured"_s,
-                              u"key"_s, u"Not Configured"_s, false }),
+    testing::Values(KindWords{ "User", ADCType::userCredentials, u"User credentials"_s,
+                               u"User credentials"_s, u"person.badge.key"_s,
+                               u"User Credentials (authorized_user)"_s, true },
+                    KindWords{ "Key", ADCType::serviceAccountKey, u"Service account key"_s,
+                               u"Service account key"_s, u"key.fill"_s, u"Service Account Key"_s,
+                               true },
+                    KindWords{ "Impersonated", ADCType::impersonatedServiceAccount,
+                               u"Impersonated SA"_s, u"Impersonated service account"_s,
+                               u"bolt.badge.a"_s, u"Impersonated Service Account"_s, true },
+                    KindWords{ "None", ADCType::none, u"Not configured"_s, u"Not configured"_s,
+                               u"key"_s, u"Not Configured"_s, false }),
     [](const auto &row) { return row.param.name; });
 
 TEST(ADCStatusTest, TellsAnAbsentQuotaProjectFromAnEmptyOne)

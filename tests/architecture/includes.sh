@@ -35,6 +35,12 @@ allow GCloudStateManager 'GCloud(Models|CLI|StateManager)/'
 allow torvictl '(GCloud(Models|CLI|StateManager)|torvictl)/|[A-Za-z]+\.moc'
 allow VeldraUI '(GCloud(Models|CLI|StateManager)|VeldraUI)/'
 allow Torvi '(GCloud(Models|CLI|StateManager)|VeldraUI|Torvi)/'
+# The program loads the views when they are first shown: outside their folder nothing knows them.
+if grep -rnE '^#include ("Torvi/Quick/|"VeldraUI/|<(QtQuick|QtQml|QQ))' --exclude-dir=Quick Torvi |
+    grep -vE '"VeldraUI/(ADCWords|Clipboard)\.h"'; then
+    echo 'Torvi must not include the above outside Torvi/Quick'
+    failures=1
+fi
 
 graphical='QtGui|QtQuick|QtQml|QtWidgets|QtDBus|QGui|QWindow|QImage|QPixmap|QColor|QIcon|QQ|QDBus|QWidget|QClipboard|xcb|X11'
 for layer in GCloudModels GCloudCLI GCloudStateManager torvictl; do

@@ -2,11 +2,11 @@
 # SPDX-FileCopyrightText: 2026 The Torvi developers
 # SPDX-License-Identifier: MIT
 
-# links.sh PROGRAM: PROGRAM, which holds all of the logic, loads no windowing or D-Bus library.
+# links.sh PROGRAM REGEX: PROGRAM at its start loads no library that REGEX matches.
 set -euo pipefail
 
 loaded=$(ldd "$1")
-if grep -E 'libQt6(Gui|Widgets|Qml|Quick|DBus|Svg)|libxcb|libX11|libwayland|libdbus' <<<"$loaded"; then
+if grep -E "$2" <<<"$loaded"; then
     echo "$1 must not load the above"
     exit 1
 fi

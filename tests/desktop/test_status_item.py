@@ -2,10 +2,12 @@
 # SPDX-License-Identifier: MIT
 """The status item in a real panel."""
 
+import os
+import shutil
 import signal
 import unittest
 
-from desktop import DesktopTestCase, wait_for
+from desktop import PROGRAM, DesktopTestCase, wait_for
 
 
 class StatusItemTest(DesktopTestCase):
@@ -38,6 +40,14 @@ class StatusItemTest(DesktopTestCase):
         self.assertEqual(torvi.end(signal.SIGTERM), 0)
 
         wait_for(lambda: str(torvi.pid) not in self.items(), "the item's end")
+
+    def test_it_ends_and_says_why_when_its_windows_are_not_installed(self):
+        alone = shutil.copy(PROGRAM, os.path.join(self.desktop.folder, "torvi"))
+
+        torvi = self.desktop.start_helper(alone, "--manager")
+
+        self.assertEqual(torvi.wait(), 1)
+        self.assertIn("The windows cannot be loaded from", torvi.output())
 
     def test_the_tool_tip_follows_gcloud_at_once_and_the_title_does_not(self):
         torvi = self.desktop.launch_torvi()

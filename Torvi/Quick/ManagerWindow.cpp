@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "Torvi/ManagerWindow.h"
+#include "Torvi/Quick/ManagerWindow.h"
 
 #include <QCloseEvent>
 #include <QScreen>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "Torvi/QuickWindow.h"
+#include "Torvi/Quick/QuickWindow.h"
 
 #include <QCursor>
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "Torvi/Renderer.h"
+#include "Torvi/Quick/Renderer.h"
 
 #include <QQuickWindow>
 

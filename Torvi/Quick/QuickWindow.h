@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Torvi/ManagerWindow.h"
+#include "Torvi/Quick/ManagerWindow.h"
 #include "Torvi/Window.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "Torvi/PopoverPlacement.h"
+#include "Torvi/Quick/PopoverPlacement.h"
 
 #include <algorithm>
 

@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "Torvi/QuickViewFactory.h"
+#include "Torvi/Quick/QuickViewFactory.h"
 
-#include "Torvi/QuickPopover.h"
-#include "Torvi/QuickWindow.h"
-#include "Torvi/Renderer.h"
+#include "Torvi/Quick/QuickPopover.h"
+#include "Torvi/Quick/QuickWindow.h"
+#include "Torvi/Quick/Renderer.h"
 #include "VeldraUI/AuthState.h"
+#include "VeldraUI/Style/Theme.h"
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -31,20 +32,12 @@ void load(QQuickView &window, const QString &view, AuthStateManager &stateManage
 
 } // namespace
 
-QuickViewFactory::QuickViewFactory(Clipboard &clipboard, BringToFront bringToFront,
-                                   FollowColorScheme followColorScheme)
-    : m_clipboard(clipboard)
-    , m_bringToFront(std::move(bringToFront))
-    , m_followColorScheme(std::move(followColorScheme))
+QuickViewFactory::QuickViewFactory(ViewSurroundings surroundings)
+    : m_surroundings(std::move(surroundings))
 {
 }
 
 QuickViewFactory::~QuickViewFactory() = default;
-
-bool QuickViewFactory::hasEngine() const
-{
-    return m_engine != nullptr;
-}
 
 QQmlEngine *QuickViewFactory::engine()
 {
@@ -64,7 +57,7 @@ std::unique_ptr<Popover> QuickViewFactory::makePopover(AuthStateManager &stateMa
         [this, &stateManager, onOpenManager = std::move(onOpenManager)] {
             return makePopoverWindow(stateManager, onOpenManager);
         },
-        m_bringToFront);
+        m_surroundings.bringToFront);
 }
 
 std::unique_ptr<PopoverWindow>
@@ -72,7 +65,7 @@ QuickViewFactory::makePopoverWindow(AuthStateManager &stateManager,
                                     const std::function<void()> &onOpenManager)
 {
     auto window = std::make_unique<PopoverWindow>(engine());
-    load(*window, u"PopoverView"_s, stateManager, m_clipboard);
+    load(*window, u"PopoverView"_s, stateManager, m_surroundings.clipboard);
     // A view's own signals are known by their names only.
     const QQuickItem *view = window->rootObject();
     QObject::connect(view, SIGNAL(close()), window.get(), SLOT(hide()));
@@ -88,11 +81,13 @@ QuickViewFactory::makeManagerWindow(AuthStateManager &stateManager,
 {
     const auto makeWindow = [this, &stateManager](std::function<void()> onClose) {
         auto window = std::make_unique<ManagerWindow>(engine(), std::move(onClose));
-        load(*window, u"ManagerWindowView"_s, stateManager, m_clipboard);
-        m_followColorScheme(*window);
+        load(*window, u"ManagerWindowView"_s, stateManager, m_surroundings.clipboard);
+        m_surroundings.followColorScheme(
+            *window, [shown = window.get()](bool isDark) { Theme::of(*shown).setDark(isDark); });
         return window;
     };
-    return std::make_unique<QuickWindow>(makeWindow, std::move(onWillClose), m_bringToFront);
+    return std::make_unique<QuickWindow>(makeWindow, std::move(onWillClose),
+                                         m_surroundings.bringToFront);
 }
 
 } // namespace torvi

@@ -3,13 +3,9 @@
 
 #pragma once
 
-#include "Torvi/ViewFactory.h"
-#include "VeldraUI/Clipboard.h"
+#include "Torvi/ViewsPlugin.h"
 
 #include <QQmlEngine>
-
-class QQuickWindow;
-class QWindow;
 
 namespace torvi {
 
@@ -20,14 +16,7 @@ class PopoverWindow;
 class QuickViewFactory final : public ViewFactory
 {
 public:
-    using BringToFront = std::function<void(QWindow &)>;
-    using FollowColorScheme = std::function<void(QQuickWindow &)>;
-
-    /// `clipboard` must outlive the views. `bringToFront` raises a window that is shown and gives
-    /// it the keyboard; `followColorScheme` makes a window light or dark, now and whenever that
-    /// changes.
-    QuickViewFactory(Clipboard &clipboard, BringToFront bringToFront,
-                     FollowColorScheme followColorScheme);
+    explicit QuickViewFactory(ViewSurroundings surroundings);
     ~QuickViewFactory() override;
 
     [[nodiscard]] std::unique_ptr<Popover>
@@ -36,16 +25,12 @@ public:
     makeManagerWindow(AuthStateManager &stateManager,
                       std::function<void(const Window &)> onWillClose) override;
 
-    [[nodiscard]] bool hasEngine() const;
-
 private:
     [[nodiscard]] QQmlEngine *engine();
     [[nodiscard]] std::unique_ptr<PopoverWindow>
     makePopoverWindow(AuthStateManager &stateManager, const std::function<void()> &onOpenManager);
 
-    Clipboard &m_clipboard;
-    BringToFront m_bringToFront;
-    FollowColorScheme m_followColorScheme;
+    ViewSurroundings m_surroundings;
     std::unique_ptr<QQmlEngine> m_engine;
 };
 

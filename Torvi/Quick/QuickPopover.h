@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Torvi/Popover.h"
-#include "Torvi/PopoverWindow.h"
+#include "Torvi/Quick/PopoverWindow.h"
 
 #include <functional>
 #include <memory>

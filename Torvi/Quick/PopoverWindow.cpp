@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "Torvi/PopoverWindow.h"
+#include "Torvi/Quick/PopoverWindow.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

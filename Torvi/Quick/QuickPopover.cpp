@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "Torvi/QuickPopover.h"
+#include "Torvi/Quick/QuickPopover.h"
 
-#include "Torvi/PopoverPlacement.h"
+#include "Torvi/Quick/PopoverPlacement.h"
 
 #include <QCursor>
 #include <QGuiApplication>

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "GCloudModels/ADCType.h"
+
+#include <QString>
+
+/// Words of the views that are also shown where no view is, so without anything of QML.
+namespace torvi::ADCWords {
+
+/// The kind of application default credentials, in the words of the active-context card.
+[[nodiscard]] QString summary(ADCType type);
+
+} // namespace torvi::ADCWords
