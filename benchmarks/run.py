@@ -20,10 +20,9 @@ import tempfile
 import time
 
 import desktop_rows
-from table import Row, context_switches, milliseconds, timed
+from table import Row, idle_row, milliseconds, timed
 
 DRAIN_US = 100_000
-IDLE_SECONDS = 60
 
 
 def wall_us(command, environment):
@@ -60,19 +59,13 @@ def peak_bytes(program, name):
     return usage.ru_maxrss * 1024
 
 
-def idle_row(command, environment):
+def watching_row(command, environment):
     """What watching costs while nothing happens."""
     with subprocess.Popen(command, env=environment, stdout=subprocess.PIPE) as watcher:
         watcher.stdout.readline()  # it has read the files
-        before = -1
-        while (now := context_switches(watcher.pid)) != before:
-            before = now
-            time.sleep(1)
-        time.sleep(IDLE_SECONDS)
-        switches = context_switches(watcher.pid) - before
+        row = idle_row("watching", watcher.pid)
         watcher.terminate()
-    return Row(f"watching, idle for {IDLE_SECONDS} s", f"{switches} context switches", "0", "–",
-               "no wake-up", switches == 0)
+    return row
 
 
 def process_rows(binaries):
@@ -89,7 +82,7 @@ def process_rows(binaries):
             slow = statistics.median(
                 wall_us([gcloud, "config", "list"], environment) for _ in range(5))
             yield timed("… against `gcloud config list`", work, slow, "at most 1/50", 1 / 50)
-        yield idle_row([program, "watch"], environment)
+        yield watching_row([program, "watch"], environment)
 
 
 def logic_rows(program):
