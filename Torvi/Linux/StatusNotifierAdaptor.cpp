@@ -14,8 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace torvi {
 
-StatusNotifierAdaptor::StatusNotifierAdaptor(QObject *parent)
+StatusNotifierAdaptor::StatusNotifierAdaptor(QObject *parent, QDBusConnection connection)
     : QDBusAbstractAdaptor(parent)
+    , m_connection(std::move(connection))
     , m_iconThemePath(StatusSymbol::iconThemePath(QCoreApplication::applicationDirPath()))
 {
     qDBusRegisterMetaType<IconPixmap>();
@@ -141,11 +142,25 @@ uint StatusNotifierAdaptor::orderingIndex() const
     return 0;
 }
 
-void StatusNotifierAdaptor::Activate(int x, int y)
+void StatusNotifierAdaptor::Activate(int x, int y, const QDBusMessage &call)
 {
     if (m_onActivate) {
         m_onActivate({ x, y });
     }
+    keepSingleClicks(call);
+}
+
+/// GNOME Shell's extension passes single clicks on only until one is answered with success; then it
+/// waits for double clicks. So it gets an error: the one by which GLib says "cancelled", which the
+/// extension neither logs nor takes for a missing method.
+void StatusNotifierAdaptor::keepSingleClicks(const QDBusMessage &call)
+{
+    if (!qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(u"GNOME")) {
+        return;
+    }
+    call.setDelayedReply(true);
+    m_connection.send(call.createErrorReply(
+        u"org.gtk.GDBus.UnmappedGError.Quark._g_2dio_2derror_2dquark.Code19"_s, u"Done"_s));
 }
 
 // One kind of click is enough: the others do nothing, but panels expect an answer.

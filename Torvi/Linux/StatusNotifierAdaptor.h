@@ -6,6 +6,8 @@
 #include "Torvi/Linux/ItemToolTip.h"
 
 #include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QPoint>
 
@@ -48,8 +50,8 @@ public:
     using OnActivate = std::function<void(const QPoint &)>;
     using OnToken = std::function<void(const QString &)>;
 
-    /// Attaches to `parent`, which is then registered on the bus.
-    explicit StatusNotifierAdaptor(QObject *parent);
+    /// Attaches to `parent`, which is then registered on the bus that `connection` leads to.
+    StatusNotifierAdaptor(QObject *parent, QDBusConnection connection);
 
     void setIcon(const QString &symbol, const QString &accessibleDescription);
     void setLabel(const QString &label);
@@ -76,7 +78,7 @@ public:
     [[nodiscard]] uint orderingIndex() const;
 
 public Q_SLOTS:
-    void Activate(int x, int y);
+    void Activate(int x, int y, const QDBusMessage &call);
     void SecondaryActivate(int x, int y);
     void XAyatanaSecondaryActivate(uint timestamp);
     void ContextMenu(int x, int y);
@@ -91,6 +93,9 @@ Q_SIGNALS:
     void XAyatanaNewLabel(const QString &label, const QString &guide);
 
 private:
+    void keepSingleClicks(const QDBusMessage &call);
+
+    QDBusConnection m_connection;
     QString m_iconThemePath;
     QString m_symbol;
     QString m_accessibleDescription;

@@ -39,7 +39,7 @@ QString StatusNotifierItem::serviceName()
 
 StatusNotifierItem::StatusNotifierItem(QDBusConnection connection)
     : m_connection(std::move(connection))
-    , m_adaptor(new StatusNotifierAdaptor(&m_object))
+    , m_adaptor(new StatusNotifierAdaptor(&m_object, m_connection))
 {
     if (!m_connection.isConnected()) {
         return;

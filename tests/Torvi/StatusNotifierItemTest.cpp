@@ -14,6 +14,7 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QDBusVariant>
+#include <QScopeGuard>
 
 #include <gmock/gmock.h>
 
@@ -337,6 +338,22 @@ TEST_F(StatusNotifierItemTest, AClickRunsTheActionAtThePointer)
     call(kInterface, u"Activate"_s, { 0, 28 });
 
     EXPECT_EQ(clicks, (QList<QPoint>{ { 590, 510 }, { 600, 500 } }));
+}
+
+TEST_F(StatusNotifierItemTest, AnswersAClickWithSuccessExceptToGnome)
+{
+    const auto restore = qScopeGuard([] { qunsetenv("XDG_CURRENT_DESKTOP"); });
+    makeItem();
+    int clicks = 0;
+    item->setAction([&clicks](const QPoint &) { ++clicks; });
+
+    EXPECT_EQ(call(kInterface, u"Activate"_s, { 1, 2 }).type(), QDBusMessage::ReplyMessage);
+    qputenv("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
+    const QDBusMessage answer = call(kInterface, u"Activate"_s, { 1, 2 });
+
+    EXPECT_EQ(answer.errorName(),
+              u"org.gtk.GDBus.UnmappedGError.Quark._g_2dio_2derror_2dquark.Code19"_s);
+    EXPECT_EQ(clicks, 2);
 }
 
 TEST_F(StatusNotifierItemTest, OtherKindsOfClicksDoNothingAndAreAnswered)
