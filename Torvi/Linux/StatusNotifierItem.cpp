@@ -5,6 +5,7 @@
 
 #include "Torvi/Linux/ActivationToken.h"
 #include "Torvi/Linux/ClickPosition.h"
+#include "Torvi/Linux/Session.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -82,7 +83,8 @@ void StatusNotifierItem::setToolTip(const QString &title, const QString &text)
 void StatusNotifierItem::setAction(std::function<void(const QPoint &)> action)
 {
     m_adaptor->onActivate([action = std::move(action)](const QPoint &claimed) {
-        action(clickPosition(claimed, QCursor::pos()));
+        // XWayland knows where the pointer is only while it is over an X11 window.
+        action(Session::isWayland() ? claimed : clickPosition(claimed, QCursor::pos()));
     });
 }
 

@@ -340,6 +340,20 @@ TEST_F(StatusNotifierItemTest, AClickRunsTheActionAtThePointer)
     EXPECT_EQ(clicks, (QList<QPoint>{ { 590, 510 }, { 600, 500 } }));
 }
 
+TEST_F(StatusNotifierItemTest, BelievesThePanelInAWaylandSession)
+{
+    const auto restore = qScopeGuard([] { qunsetenv("WAYLAND_DISPLAY"); });
+    qputenv("WAYLAND_DISPLAY", "wayland-0");
+    makeItem();
+    QList<QPoint> clicks;
+    item->setAction([&clicks](const QPoint &position) { clicks.append(position); });
+    QCursor::setPos(600, 500);
+
+    call(kInterface, u"Activate"_s, { 1100, 16 });
+
+    EXPECT_EQ(clicks, QList{ QPoint(1100, 16) });
+}
+
 TEST_F(StatusNotifierItemTest, AnswersAClickWithSuccessExceptToGnome)
 {
     const auto restore = qScopeGuard([] { qunsetenv("XDG_CURRENT_DESKTOP"); });
