@@ -5,8 +5,21 @@
 from desktop import wait_for
 
 
+def at_rest(item):
+    """What item() is once the panel leaves it in its place."""
+    last = None
+
+    def look():
+        nonlocal last
+        before, last = last, item()
+        return last if last == before else None
+    return wait_for(look, "the item")
+
+
 class PanelTests:
-    """The tests; a test case says where its panel shows the item."""
+    """The tests, for a test case whose item() is (width, x, y) of the item, of its middle, and None
+    while there is none.
+    """
 
     PANEL_HEIGHT = 0
 
@@ -17,19 +30,8 @@ class PanelTests:
         wait_for(lambda: str(self.torvi.pid)
                  in self.desktop.watcher("RegisteredStatusNotifierItems"), "the item in the panel")
 
-    def item(self):
-        """(width, x, y) of the item, of its middle; None while there is none."""
-        raise NotImplementedError
-
     def item_at_rest(self):
-        """The same, once the panel leaves it in its place."""
-        last = None
-
-        def look():
-            nonlocal last
-            before, last = last, self.item()
-            return last if last == before else None
-        return wait_for(look, "the item")
+        return at_rest(self.item)
 
     def test_a_click_opens_the_popover_under_the_item(self):
         _, x, y = self.item_at_rest()
@@ -44,6 +46,7 @@ class PanelTests:
         with self.desktop.calls("Activate") as activations:
             self.desktop.click((x, y))
             self.wait_for_popover()
+            self.wait_for_title()
 
             _, x, y = self.item_at_rest()
             self.desktop.click((x, y))
