@@ -4,6 +4,7 @@
 
 import glob
 import os
+import pathlib
 import re
 import shutil
 import unittest
@@ -12,7 +13,14 @@ from desktop import wait_for
 from gnome_shell import GnomeTestCase
 from panel_tests import at_rest
 
+try:
+    import accessibility
+except ImportError:
+    accessibility = None
+
 MISSING = [name for name in ("weston-terminal", "Xwayland", "wl-copy") if not shutil.which(name)]
+if accessibility is None:
+    MISSING.append("python3-gi")
 WAYLAND = "torvi-test"
 
 # Each window of Torvi: whether it came through XWayland, x, y, width, height.
@@ -117,9 +125,63 @@ class Cases:
 
 class NativeTest(Cases, WaylandTestCase):
     IS_X11 = False
+    ADDRESS = "https://accounts.google.com/o/oauth2/auth?client_id=1&state=a%2Fb"
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.desktop.start_helper("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
+        wait_for(lambda: cls.desktop.has_owner("org.a11y.Bus"), "the accessibility bus")
 
     def session(self):
-        return {"DISPLAY": "", "QT_QPA_PLATFORM": "wayland"}
+        return {"DISPLAY": "", "QT_QPA_PLATFORM": "wayland",
+                "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+
+    def prepare_sign_in(self):
+        """Lets gcloud wait for a line before it shows the address; where to write that."""
+        path = os.path.join(self.desktop.folder, "show-address")
+        os.mkfifo(path)
+        gcloud = os.path.join(self.desktop.environment["HOME"], "google-cloud-sdk/bin/gcloud")
+        with open(gcloud, encoding="utf-8") as file:
+            self.addCleanup(pathlib.Path(gcloud).write_text, file.read())
+        pathlib.Path(gcloud).write_text(
+            f"#!/bin/sh\ncase \"$*\" in *login*) ;; *) echo '[]'; exit ;; esac\n"
+            f"until read line < {path}; do :; done\necho '{self.ADDRESS}' >&2\n")
+        return path
+
+    @staticmethod
+    def is_read(path):
+        """Whether a program has that pipe open for reading."""
+        try:
+            os.close(os.open(path, os.O_WRONLY | os.O_NONBLOCK))
+        except OSError:
+            return False
+        return True
+
+    def press(self, name):
+        address = self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"]
+        root = wait_for(lambda: accessibility.connect(address, self.torvi.pid), "the tree")
+
+        def find():
+            try:
+                return next((node for node in root.walk() if node.name == name
+                             and node.role == "push button"), None)
+            except accessibility.Gone:
+                return None
+        wait_for(find, name).act("Press")
+
+    def test_the_sign_in_address_is_on_the_clipboard_though_no_window_has_the_keyboard(self):
+        show_address = self.prepare_sign_in()
+        self.toggle()
+        self.wait_for_popover()
+        self.press("ADC Login")
+        wait_for(lambda: self.is_read(show_address), "gcloud")
+        self.toggle()
+        self.wait_for_no_popover()
+        pathlib.Path(show_address).write_text("\n", encoding="utf-8")
+
+        paste = ("env", "WAYLAND_DISPLAY=" + WAYLAND, "wl-paste", "--no-newline")
+        wait_for(lambda: self.desktop.run(*paste) == self.ADDRESS, "the address")
 
 
 class XWaylandTest(Cases, WaylandTestCase):
