@@ -3,6 +3,7 @@
 
 #include "torvictl/Operations.h"
 
+#include "GCloudStateManager/EnvironmentOverride.h"
 #include "torvictl/Json.h"
 #include "torvictl/Rows.h"
 #include "torvictl/Terminal.h"
@@ -57,7 +58,8 @@ int exitCode(const AuthStateManager &manager)
 }
 
 /// Prints what the manager holds; false when nobody reads it any more.
-bool printStatus(const AuthStateManager &manager, Format format)
+bool printStatus(const AuthStateManager &manager, const QList<EnvironmentOverride> &overrides,
+                 Format format)
 {
     if (format == Format::text) {
         return Terminal::print(
@@ -67,12 +69,15 @@ bool printStatus(const AuthStateManager &manager, Format format)
     if (manager.lastError()) {
         lastError = manager.lastError()->errorDescription();
     }
-    return printLine(JsonObject()
-                         .member("currentContext", manager.currentContext())
-                         .member("accounts", manager.accounts())
-                         .member("configurations", manager.configurations())
-                         .member("lastError", lastError)
-                         .text());
+    JsonObject object;
+    object.member("currentContext", manager.currentContext())
+        .member("accounts", manager.accounts())
+        .member("configurations", manager.configurations())
+        .member("lastError", lastError);
+    if (!overrides.isEmpty()) {
+        object.member("environmentOverrides", overrides);
+    }
+    return printLine(object.text());
 }
 
 QCoro::Task<int> exitCodeAfter(QCoro::Task<> operation, AuthStateManager &manager)
@@ -87,7 +92,11 @@ QCoro::Task<int> Operations::status(DependencyContainer &container, Format forma
 {
     AuthStateManager &manager = container.stateManager();
     co_await manager.reloadFromFiles();
-    (void)printStatus(manager, format);
+    const auto overrides = EnvironmentOverride::all(manager.configReader());
+    (void)printStatus(manager, overrides, format);
+    for (const EnvironmentOverride &each : overrides) {
+        Terminal::printError(each.description());
+    }
     co_return exitCode(manager);
 }
 
@@ -103,7 +112,7 @@ QCoro::Task<int> Operations::watch(DependencyContainer &container, Format format
     while (isRead) {
         manager.setLastError(std::nullopt);
         co_await manager.reloadFromFiles();
-        isRead = printStatus(manager, format);
+        isRead = printStatus(manager, EnvironmentOverride::all(manager.configReader()), format);
         (void)exitCode(manager);
         if (!isRead) {
             break;
