@@ -21,6 +21,7 @@ namespace {
 
 using CommandLine::Operation;
 using Operations::Format;
+using Operations::StatusFormat;
 
 /// Checked to be UTF-8 before anything is parsed.
 QString text(const std::string &argument)
@@ -34,6 +35,20 @@ ImpersonationMode impersonationMode(const std::string &name)
         return ImpersonationMode::both;
     }
     return name == "cliOnly" ? ImpersonationMode::cliOnly : ImpersonationMode::adcOnly;
+}
+
+StatusFormat statusFormat(bool isJson, const std::optional<std::string> &bar)
+{
+    if (!bar) {
+        return isJson ? Format::json : Format::text;
+    }
+    if (*bar == "waybar") {
+        return BarFormat::waybar;
+    }
+    if (*bar == "polybar") {
+        return BarFormat::polybar;
+    }
+    return *bar == "i3blocks" ? BarFormat::i3blocks : BarFormat::plain;
 }
 
 /// Builds the commands one by one; each leaves what it asks for in `operation` when it is given.
@@ -68,6 +83,7 @@ private:
     }
 
     using WithFormat = QCoro::Task<int> (*)(DependencyContainer &, Format);
+    using WithStatusFormat = QCoro::Task<int> (*)(DependencyContainer &, StatusFormat);
     using WithText = QCoro::Task<int> (*)(DependencyContainer &, QString);
     using WithTextAndFormat = QCoro::Task<int> (*)(DependencyContainer &, QString, Format);
 
@@ -76,6 +92,20 @@ private:
         auto isJson = value<bool>();
         command->add_flag("--json", *isJson, "Print JSON, one line for each answer");
         return isJson;
+    }
+
+    void addStatus(const char *name, const char *description, WithStatusFormat run)
+    {
+        CLI::App *command = add(name, description);
+        auto isJson = addJsonFlag(command);
+        auto bar = value<std::optional<std::string>>();
+        command->add_option("--format", *bar, "Print one line for a bar or a prompt")
+            ->check(CLI::IsMember({ "waybar", "polybar", "i3blocks", "plain" }))
+            ->excludes("--json");
+        command->callback([this, run, isJson, bar] {
+            operation = [run, format = statusFormat(*isJson, *bar)](
+                            DependencyContainer &container) { return run(container, format); };
+        });
     }
 
     std::shared_ptr<std::string> addText(CLI::App *command, const char *name,
@@ -127,8 +157,8 @@ private:
 
     void addQueries()
     {
-        addQuery("status", "Show what is active, from gcloud's files", &Operations::status);
-        addQuery("watch", "Show what is active, again at each change", &Operations::watch);
+        addStatus("status", "Show what is active, from gcloud's files", &Operations::status);
+        addStatus("watch", "Show what is active, again at each change", &Operations::watch);
         addQuery("projects", "List the projects that the active account sees",
                  &Operations::projects);
         add("identity-token", "Print an identity token of the active account")->callback([this] {

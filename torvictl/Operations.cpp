@@ -23,6 +23,7 @@ namespace torvi {
 namespace {
 
 using Operations::Format;
+using Operations::StatusFormat;
 
 bool printLine(const QByteArray &line)
 {
@@ -57,14 +58,10 @@ int exitCode(const AuthStateManager &manager)
     return 0;
 }
 
-/// Prints what the manager holds; false when nobody reads it any more.
-bool printStatus(const AuthStateManager &manager, const QList<EnvironmentOverride> &overrides,
-                 Format format)
+using Overrides = QList<EnvironmentOverride>;
+
+QByteArray statusJson(const AuthStateManager &manager, const Overrides &overrides)
 {
-    if (format == Format::text) {
-        return Terminal::print(
-            aligned(contextRows(manager.currentContext()), Terminal::colours()).toUtf8());
-    }
     std::optional<QString> lastError;
     if (manager.lastError()) {
         lastError = manager.lastError()->errorDescription();
@@ -77,7 +74,33 @@ bool printStatus(const AuthStateManager &manager, const QList<EnvironmentOverrid
     if (!overrides.isEmpty()) {
         object.member("environmentOverrides", overrides);
     }
-    return printLine(object.text());
+    return object.text();
+}
+
+QStringList notes(const AuthStateManager &manager, const Overrides &overrides)
+{
+    QStringList notes;
+    for (const EnvironmentOverride &each : overrides) {
+        notes.append(each.description());
+    }
+    if (manager.lastError()) {
+        notes.append(manager.lastError()->errorDescription());
+    }
+    return notes;
+}
+
+/// Prints what the manager holds; false when nobody reads it any more.
+bool printStatus(const AuthStateManager &manager, const Overrides &overrides,
+                 const StatusFormat &format)
+{
+    if (const auto *bar = std::get_if<BarFormat>(&format)) {
+        return printLine(barLine(manager.currentContext(), notes(manager, overrides), *bar));
+    }
+    if (std::get<Format>(format) == Format::json) {
+        return printLine(statusJson(manager, overrides));
+    }
+    return Terminal::print(
+        aligned(contextRows(manager.currentContext()), Terminal::colours()).toUtf8());
 }
 
 QCoro::Task<int> exitCodeAfter(QCoro::Task<> operation, AuthStateManager &manager)
@@ -88,7 +111,7 @@ QCoro::Task<int> exitCodeAfter(QCoro::Task<> operation, AuthStateManager &manage
 
 } // namespace
 
-QCoro::Task<int> Operations::status(DependencyContainer &container, Format format)
+QCoro::Task<int> Operations::status(DependencyContainer &container, StatusFormat format)
 {
     AuthStateManager &manager = container.stateManager();
     co_await manager.reloadFromFiles();
@@ -100,7 +123,7 @@ QCoro::Task<int> Operations::status(DependencyContainer &container, Format forma
     co_return exitCode(manager);
 }
 
-QCoro::Task<int> Operations::watch(DependencyContainer &container, Format format)
+QCoro::Task<int> Operations::watch(DependencyContainer &container, StatusFormat format)
 {
     AuthStateManager &manager = container.stateManager();
     ChangeStream changes = container.fileWatcher().start(); // first, so that nothing is missed

@@ -30,14 +30,6 @@ QString adcKind(ADCType type)
     Q_UNREACHABLE();
 }
 
-QString printable(QString text)
-{
-    std::ranges::replace_if(
-        text, [](QChar character) { return character.category() == QChar::Other_Control; },
-        QChar(QChar::ReplacementCharacter));
-    return text;
-}
-
 QString coloured(const QString &text, QStringView colour, Colours colours)
 {
     return colours == Colours::on && !text.isEmpty() ? colour.toString() + text + kReset.toString()
@@ -45,6 +37,14 @@ QString coloured(const QString &text, QStringView colour, Colours colours)
 }
 
 } // namespace
+
+QString printable(QString text)
+{
+    std::ranges::replace_if(
+        text, [](QChar character) { return character.category() == QChar::Other_Control; },
+        QChar(QChar::ReplacementCharacter));
+    return text;
+}
 
 QList<Row> contextRows(const AuthContext &context)
 {

@@ -175,6 +175,26 @@ TEST_F(TorvictlStatusTest, SaysNothingOfAnEnvironmentThatAgreesWithTheFiles)
     EXPECT_EQ(outcome.error, "");
 }
 
+TEST_F(TorvictlStatusTest, EachBarGetsItsOwnLine)
+{
+    writeConfig(u"configurations/config_default"_s,
+                "[core]\nproject = p&q\n[auth]\nimpersonate_service_account = s@p\n");
+    environment.insert(u"CLOUDSDK_CORE_PROJECT"_s, u"x"_s);
+    const auto output = [this](const QString &format) {
+        return run({ u"status"_s, u"--format"_s, format }).output;
+    };
+
+    EXPECT_EQ(output(u"plain"_s), "p&q as s\n");
+    EXPECT_EQ(output(u"polybar"_s), "%{F#ffa348}p&q as s%{F-}\n");
+    EXPECT_EQ(output(u"i3blocks"_s), "<span color='#ffa348'>p&amp;q as s</span>\n");
+    EXPECT_EQ(output(u"waybar"_s),
+              R"({"text":"p&amp;q as s","tooltip":"Project: p&amp;q\nAccount: None\n)"
+              R"(Impersonating: s@p\nADC: Not configured\n)"
+              R"(CLOUDSDK_CORE_PROJECT makes gcloud use the project &quot;x&quot;.",)"
+              R"("class":["impersonating","warning"]})"
+              "\n");
+}
+
 TEST_F(TorvictlStatusTest, FullDiskIsAnErrorNotASilentLoss)
 {
     QProcess process;

@@ -69,6 +69,24 @@ TEST_F(TorvictlWatchTest, NeverRunsGcloud)
     EXPECT_EQ(gcloudRuns(), "");
 }
 
+TEST_F(TorvictlWatchTest, ABarsLineLosesItsColourWhenTheImpersonationEnds)
+{
+    nextLine(*watch);
+    writeConfig(u"configurations/config_default"_s,
+                "[core]\nproject = p1\n[auth]\nimpersonate_service_account = s@p\n");
+    const auto bar = start({ u"watch"_s, u"--format"_s, u"polybar"_s });
+    EXPECT_EQ(nextLine(*bar), "%{F#ffa348}p1 as s%{F-}");
+
+    writeConfig(u"configurations/config_default"_s, "[core]\nproject = p1\n");
+
+    while (nextLine(*bar) != "p1") {
+        ASSERT_FALSE(HasFailure());
+    }
+    kill(static_cast<pid_t>(bar->processId()), SIGINT);
+    EXPECT_EQ(outcome(*bar).exitCode, 130);
+    endedBy(SIGINT);
+}
+
 TEST_F(TorvictlWatchTest, CtrlCExits130)
 {
     nextLine(*watch);

@@ -15,9 +15,12 @@ _torvictl() {
             forget-account recents pin unpin settings locate --help --version'
     elif [[ $previous == --mode ]]; then
         words='adcOnly cliOnly both'
+    elif [[ $previous == --format ]]; then
+        words='waybar polybar i3blocks plain'
     else
         case $command in
-            status | watch | projects | recents) words+=' --json' ;;
+            status | watch) words+=' --json --format' ;;
+            projects | recents) words+=' --json' ;;
             service-accounts | saved-accounts) words+=" --json $(torvictl recents 2>/dev/null)" ;;
             switch-project | set-quota-project | pin | unpin)
                 words+=" $(torvictl recents 2>/dev/null)"
