@@ -3,7 +3,10 @@
 
 #include "tests/torvictl/TorvictlProgram.h"
 
+#include <array>
 #include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -107,6 +110,26 @@ TEST_F(TorvictlWatchTest, EndsWithZeroWhenItsReaderGoesAwayAlsoWithoutAChange)
     EXPECT_EQ(pipeline.readAllStandardOutput(), "Project  p1\n");
     EXPECT_EQ(read(u"code"_s), "0\n");
     endedBy(SIGINT);
+}
+
+TEST_F(TorvictlWatchTest, EndsWithZeroAlsoWhenItsReaderWasASocket)
+{
+    nextLine(*watch);
+    endedBy(SIGINT);
+    std::array<int, 2> sockets{};
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, sockets.data()), 0);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setChildProcessModifier([&sockets] { dup2(sockets[1], STDOUT_FILENO); });
+    process.start(QStringLiteral(TORVI_TORVICTL), { u"watch"_s });
+    ASSERT_TRUE(process.waitForStarted());
+    close(sockets[1]);
+    std::array<char, 10> line{};
+    ASSERT_GT(::read(sockets[0], line.data(), line.size()), 0);
+
+    close(sockets[0]);
+
+    EXPECT_EQ(outcome(process).exitCode, 0);
 }
 
 TEST_F(TorvictlWatchTest, SeesADirectoryThatIsMadeLater)
