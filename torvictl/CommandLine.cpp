@@ -167,6 +167,8 @@ private:
         add("locate", "Print the path of the gcloud that is used")->callback([this] {
             operation = &Operations::locate;
         });
+        add("doctor", "Tell what Torvi found on this machine, without anything private")
+            ->callback([this] { operation = &Operations::doctor; });
     }
 
     void addOperations()

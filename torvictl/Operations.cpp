@@ -4,17 +4,12 @@
 #include "torvictl/Operations.h"
 
 #include "GCloudStateManager/EnvironmentOverride.h"
+#include "torvictl/Background.h"
 #include "torvictl/Json.h"
 #include "torvictl/Rows.h"
 #include "torvictl/Terminal.h"
 
-#include <QFuture>
-#include <QPromise>
 #include <qcoro/qcorofuture.h>
-
-#include <stop_token>
-#include <thread>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -230,23 +225,12 @@ QCoro::Task<int> Operations::identityToken(DependencyContainer &container)
 
 QCoro::Task<int> Operations::locate(DependencyContainer &container)
 {
-    QPromise<QString> promise;
-    QFuture<QString> future = promise.future();
-    // The search can ask the user's shell, which may take its time: not on the main thread. Static,
-    // so that a search that Ctrl-C interrupts is stopped and its shell ended at exit.
-    static std::jthread search;
-    search = std::jthread(
-        [resolver = container.pathResolver()](std::stop_token stop, QPromise<QString> result) {
-            result.start();
-            try {
-                result.addResult(resolver->resolve(stop));
-            } catch (...) {
-                result.setException(std::current_exception());
-            }
-            result.finish();
-        },
-        std::move(promise));
-    const QString path = co_await future;
+    // The search can ask the user's shell, which may take its time: not on the main thread.
+    const auto search
+        = inBackground([resolver = container.pathResolver()](const std::stop_token &stop) {
+              return resolver->resolve(stop);
+          });
+    const QString path = co_await search;
     (void)printLine(path.toUtf8());
     co_return 0;
 }

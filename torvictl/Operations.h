@@ -42,6 +42,8 @@ QCoro::Task<int> impersonate(DependencyContainer &container, QString email, Impe
 QCoro::Task<int> clearImpersonation(DependencyContainer &container, ImpersonationMode mode);
 QCoro::Task<int> identityToken(DependencyContainer &container);
 QCoro::Task<int> locate(DependencyContainer &container);
+/// Throws when there is no gcloud, after saying what there is.
+QCoro::Task<int> doctor(DependencyContainer &container);
 
 QCoro::Task<int> serviceAccounts(DependencyContainer &container, QString projectId, Format format);
 QCoro::Task<int> savedAccounts(DependencyContainer &container, QString projectId, Format format);

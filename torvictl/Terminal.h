@@ -20,7 +20,8 @@ namespace torvi::Terminal {
 [[nodiscard]] bool print(const QByteArray &bytes);
 
 /// Calls back once, from the event loop, when standard output is a pipe or, as in tmux, a socket,
-/// and its reader has gone. Null when standard output is neither. The caller keeps the notifier as long as it wants to know.
+/// and its reader has gone. Null when standard output is neither. The caller keeps the notifier as
+/// long as it wants to know.
 [[nodiscard]] std::unique_ptr<QSocketNotifier>
 notifyWhenReaderLeaves(std::function<void()> callback);
 

@@ -31,7 +31,7 @@ TEST_P(CompletionsTest, KnowEveryCommandThatTheHelpNames)
             << name.toStdString();
     }
 
-    EXPECT_EQ(commands, 22);
+    EXPECT_EQ(commands, 23);
 }
 
 TEST_P(CompletionsTest, AreReadWithoutComplaintByTheirShell)

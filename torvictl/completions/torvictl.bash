@@ -12,7 +12,7 @@ _torvictl() {
         words='status watch projects switch-project switch-account activate-configuration
             create-configuration delete-configuration set-quota-project adc-login impersonate
             clear-impersonation identity-token service-accounts saved-accounts save-account
-            forget-account recents pin unpin settings locate --help --version'
+            forget-account recents pin unpin settings locate doctor --help --version'
     elif [[ $previous == --mode ]]; then
         words='adcOnly cliOnly both'
     elif [[ $previous == --format ]]; then
