@@ -3,7 +3,10 @@
 
 #include "Torvi/StatusToolTip.h"
 
+#include "GCloudStateManager/EnvironmentOverride.h"
 #include "VeldraUI/ADCStatus.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -33,9 +36,11 @@ QString textFor(const AuthContext &context)
 
 } // namespace
 
-StatusToolTip::StatusToolTip(StatusItem &statusItem, const AuthStateManager &stateManager)
+StatusToolTip::StatusToolTip(StatusItem &statusItem, const AuthStateManager &stateManager,
+                             QProcessEnvironment environment)
     : m_statusItem(statusItem)
     , m_stateManager(stateManager)
+    , m_environment(std::move(environment))
 {
     connect(&stateManager, &AuthStateManager::currentContextChanged, this, &StatusToolTip::update);
     update();
@@ -47,7 +52,12 @@ void StatusToolTip::update()
     const AuthContext &context = m_stateManager.currentContext();
     const QString title
         = context.activeProject ? u"Torvi – "_s + context.activeProject->id : u"Torvi"_s;
-    m_statusItem.setToolTip(title, textFor(context));
+    QStringList lines{ textFor(context) };
+    for (const EnvironmentOverride &each :
+         EnvironmentOverride::all(m_stateManager.configReader(), m_environment)) {
+        lines.append(each.description());
+    }
+    m_statusItem.setToolTip(title, lines.join(u'\n'));
 }
 
 } // namespace torvi
