@@ -25,8 +25,8 @@ using Differs = bool (*)(const GCloudConfigReading &files, const QString &value)
 struct Variable
 {
     QStringView name;
-    const char *description; ///< %1 the variable, %2 its value
-    Differs differs;
+    const char *description = nullptr; ///< %1 the variable, %2 its value
+    Differs differs = nullptr;
 };
 
 bool configurationDiffers(const GCloudConfigReading &files, const QString &value)

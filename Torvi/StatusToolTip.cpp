@@ -6,8 +6,6 @@
 #include "GCloudStateManager/EnvironmentOverride.h"
 #include "VeldraUI/ADCStatus.h"
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace torvi {
@@ -37,10 +35,10 @@ QString textFor(const AuthContext &context)
 } // namespace
 
 StatusToolTip::StatusToolTip(StatusItem &statusItem, const AuthStateManager &stateManager,
-                             QProcessEnvironment environment)
+                             const QProcessEnvironment &environment)
     : m_statusItem(statusItem)
     , m_stateManager(stateManager)
-    , m_environment(std::move(environment))
+    , m_environment(environment)
 {
     connect(&stateManager, &AuthStateManager::currentContextChanged, this, &StatusToolTip::update);
     update();

@@ -21,7 +21,8 @@ class StatusToolTip final : public QObject
 
 public:
     StatusToolTip(StatusItem &statusItem, const AuthStateManager &stateManager,
-                  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment());
+                  const QProcessEnvironment &environment
+                  = QProcessEnvironment::systemEnvironment());
 
 private:
     void update();
