@@ -29,6 +29,8 @@ std::variant<CommandLine::Options, int> CommandLine::parse(int argc, const char 
     addRequest("--toggle", Request::toggle, "Open the popover, or close it");
     addRequest("--manager", Request::manager, "Open the manager window");
     addRequest("--quit", Request::quit, "End the Torvi that runs");
+    requests->add_flag("--doctor", options.wantsDiagnosis,
+                       "Tell what Torvi found on this desktop, without anything private");
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success &printed) { // help and version

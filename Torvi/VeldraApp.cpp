@@ -6,6 +6,7 @@
 #include "GCloudCLI/Signals.h"
 #include "Torvi/AppBrowserAuthHandler.h"
 #include "Torvi/AppDelegate.h"
+#include "Torvi/Doctor.h"
 #include "Torvi/Linux/LinuxDesktop.h"
 #include "Torvi/Linux/Session.h"
 #include "Torvi/Linux/SingleInstance.h"
@@ -137,6 +138,21 @@ int runApplication(const CommandLine::Options &options, int argc, char **argv)
     Q_UNREACHABLE();
 }
 
+int diagnose(int argc, char **argv)
+{
+    Signals::block();
+    if (!Session::hasDisplay()) {
+        const QCoreApplication application(argc, argv);
+        const Signals signals([](int number) { QCoreApplication::exit(128 + number); });
+        return Doctor::run();
+    }
+    Session::preferX11();
+    const Application application(argc, argv);
+    Session::forgetPreference();
+    const Signals signals([](int number) { QCoreApplication::exit(128 + number); });
+    return Doctor::run();
+}
+
 } // namespace
 
 int VeldraApp::run(int argc, char **argv)
@@ -146,6 +162,9 @@ int VeldraApp::run(int argc, char **argv)
         return *exitCode;
     }
     const auto &options = std::get<CommandLine::Options>(parsed);
+    if (options.wantsDiagnosis) {
+        return diagnose(argc, argv);
+    }
     if (options.request == Request::quit || !Session::hasDisplay()) {
         return passOn(options.request, argc, argv);
     }

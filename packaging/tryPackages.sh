@@ -38,6 +38,7 @@ inside torvictl --version
 inside torvi --version
 inside torvictl status
 inside torvictl doctor || [[ $? == 1 ]] # there is no gcloud
+inside torvi --doctor || [[ $? == 1 ]]
 inside env QT_QPA_PLATFORM=offscreen dbus-run-session -- sh -c '
     gdbus call --session -d com.veldra.Torvi -o /com/veldra/Torvi \
         -m org.freedesktop.Application.Activate {} &&

@@ -4,7 +4,7 @@
 #include "torvictl/BarLine.h"
 
 #include "torvictl/Json.h"
-#include "torvictl/Rows.h"
+#include "GCloudStateManager/Rows.h"
 
 #include <QCoreApplication>
 

@@ -4,9 +4,9 @@
 #include "torvictl/Operations.h"
 
 #include "GCloudStateManager/EnvironmentOverride.h"
-#include "torvictl/Background.h"
+#include "GCloudStateManager/Background.h"
 #include "torvictl/Json.h"
-#include "torvictl/Rows.h"
+#include "GCloudStateManager/Rows.h"
 #include "torvictl/Terminal.h"
 
 #include <qcoro/qcorofuture.h>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "torvictl/Rows.h"
+#include "GCloudStateManager/Rows.h"
 
 #include <QByteArray>
 #include <QSocketNotifier>

@@ -4,9 +4,12 @@
 #pragma once
 
 #include "GCloudCLI/GCloudPathResolver.h"
-#include "torvictl/Rows.h"
+#include "GCloudStateManager/DependencyContainer.h"
+#include "GCloudStateManager/Rows.h"
 
+#include <QCoreApplication>
 #include <QProcessEnvironment>
+#include <qcoro/qcorotask.h>
 
 #include <chrono>
 #include <optional>
@@ -17,6 +20,10 @@ namespace torvi {
 /// neither credentials, nor e-mails, nor project ids.
 struct Diagnosis
 {
+    Q_DECLARE_TR_FUNCTIONS(torvi::Diagnosis)
+
+public:
+    Row program; ///< who asks, and its version
     std::optional<GCloudPathResolver::Found> gcloud;
     std::chrono::milliseconds searchTime{};
     std::optional<QString> gcloudVersion; ///< absent when gcloud would not tell
@@ -25,6 +32,10 @@ struct Diagnosis
     QString preferencesFile;
     QString homeDirectory; ///< shown as "~"
     QProcessEnvironment environment;
+
+    /// Searches for gcloud and asks it for its version, both off the main thread.
+    /// Errors: throws AppError when gcloud cannot be started or be waited for.
+    static QCoro::Task<Diagnosis> ofThisMachine(Row program, const DependencyContainer &container);
 
     [[nodiscard]] QList<Row> rows() const;
     /// What would make the search instant; absent when it is.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "torvictl/Diagnosis.h"
+#include "GCloudStateManager/Diagnosis.h"
 
 #include <gtest/gtest.h>
 
@@ -44,6 +44,14 @@ TEST(DiagnosisTest, TellsByWhichStageGcloudWasFoundAndHowLongThatTook)
               u"a start-up file of a shell, in 1830 ms"_s);
     EXPECT_EQ(valueOf(diagnosisWith(Stage::loginShell), u"Found by"),
               u"asking the login shell, in 1830 ms"_s);
+}
+
+TEST(DiagnosisTest, BeginsWithTheProgramThatAsks)
+{
+    Diagnosis diagnosis;
+    diagnosis.program = { u"torvi"_s, u"1.2.3"_s };
+
+    EXPECT_EQ(diagnosis.rows().first(), diagnosis.program);
 }
 
 TEST(DiagnosisTest, AdvisesTheSettingUnlessItIsUsed)
