@@ -3,6 +3,8 @@
 
 #include "GCloudStateManager/Rows.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -19,13 +21,13 @@ QString adcKind(ADCType type)
 {
     switch (type) {
     case ADCType::userCredentials:
-        return u"User credentials"_s;
+        return QCoreApplication::translate("Rows", "User credentials");
     case ADCType::serviceAccountKey:
-        return u"Service account key"_s;
+        return QCoreApplication::translate("Rows", "Service account key");
     case ADCType::impersonatedServiceAccount:
-        return u"Impersonated SA"_s;
+        return QCoreApplication::translate("Rows", "Impersonated SA");
     case ADCType::none:
-        return u"Not configured"_s;
+        return QCoreApplication::translate("Rows", "Not configured");
     }
     Q_UNREACHABLE();
 }
@@ -49,13 +51,18 @@ QString printable(QString text)
 QList<Row> contextRows(const AuthContext &context)
 {
     QList<Row> rows{
-        { u"Project"_s, context.activeProject ? context.activeProject->id : u"None"_s },
-        { u"Account"_s, context.activeAccount ? context.activeAccount->email : u"None"_s },
+        { QCoreApplication::translate("Rows", "Project"),
+          context.activeProject ? context.activeProject->id
+                                : QCoreApplication::translate("Rows", "None") },
+        { QCoreApplication::translate("Rows", "Account"),
+          context.activeAccount ? context.activeAccount->email
+                                : QCoreApplication::translate("Rows", "None") },
     };
     if (context.impersonatedServiceAccount) {
-        rows.append({ u"Impersonating"_s, context.impersonatedServiceAccount->email, true });
+        rows.append({ QCoreApplication::translate("Rows", "Impersonating"),
+                      context.impersonatedServiceAccount->email, true });
     }
-    rows.append({ u"ADC"_s, adcKind(context.adcState.type) });
+    rows.append({ QCoreApplication::translate("Rows", "ADC"), adcKind(context.adcState.type) });
     return rows;
 }
 

@@ -3,6 +3,8 @@
 
 #include "VeldraUI/ADCStatus.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -23,13 +25,13 @@ QString ADCStatus::summary() const
 {
     switch (m_state.type) {
     case ADCType::userCredentials:
-        return u"User credentials"_s;
+        return QCoreApplication::translate("ADCStatus", "User credentials");
     case ADCType::serviceAccountKey:
-        return u"Service account key"_s;
+        return QCoreApplication::translate("ADCStatus", "Service account key");
     case ADCType::impersonatedServiceAccount:
-        return u"Impersonated SA"_s;
+        return QCoreApplication::translate("ADCStatus", "Impersonated SA");
     case ADCType::none:
-        return u"Not configured"_s;
+        return QCoreApplication::translate("ADCStatus", "Not configured");
     }
     Q_UNREACHABLE();
 }
@@ -38,13 +40,13 @@ QString ADCStatus::description() const
 {
     switch (m_state.type) {
     case ADCType::userCredentials:
-        return u"User credentials"_s;
+        return QCoreApplication::translate("ADCStatus", "User credentials");
     case ADCType::serviceAccountKey:
-        return u"Service account key"_s;
+        return QCoreApplication::translate("ADCStatus", "Service account key");
     case ADCType::impersonatedServiceAccount:
-        return u"Impersonated service account"_s;
+        return QCoreApplication::translate("ADCStatus", "Impersonated service account");
     case ADCType::none:
-        return u"Not configured"_s;
+        return QCoreApplication::translate("ADCStatus", "Not configured");
     }
     Q_UNREACHABLE();
 }
@@ -68,13 +70,13 @@ QString ADCStatus::typeName() const
 {
     switch (m_state.type) {
     case ADCType::userCredentials:
-        return u"User Credentials (authorized_user)"_s;
+        return QCoreApplication::translate("ADCStatus", "User Credentials (authorized_user)");
     case ADCType::serviceAccountKey:
-        return u"Service Account Key"_s;
+        return QCoreApplication::translate("ADCStatus", "Service Account Key");
     case ADCType::impersonatedServiceAccount:
-        return u"Impersonated Service Account"_s;
+        return QCoreApplication::translate("ADCStatus", "Impersonated Service Account");
     case ADCType::none:
-        return u"Not Configured"_s;
+        return QCoreApplication::translate("ADCStatus", "Not Configured");
     }
     Q_UNREACHABLE();
 }

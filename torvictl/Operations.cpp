@@ -3,12 +3,13 @@
 
 #include "torvictl/Operations.h"
 
-#include "GCloudStateManager/EnvironmentOverride.h"
 #include "GCloudStateManager/Background.h"
-#include "torvictl/Json.h"
+#include "GCloudStateManager/EnvironmentOverride.h"
 #include "GCloudStateManager/Rows.h"
+#include "torvictl/Json.h"
 #include "torvictl/Terminal.h"
 
+#include <QCoreApplication>
 #include <qcoro/qcorofuture.h>
 
 using namespace Qt::StringLiterals;
@@ -137,7 +138,8 @@ QCoro::Task<int> Operations::watch(DependencyContainer &container, StatusFormat 
         }
         const bool changed = co_await changes.next();
         if (!changed && isRead) {
-            throw AppError::unknown(u"The configuration directory cannot be watched."_s);
+            throw AppError::unknown(QCoreApplication::translate(
+                "Operations", "The configuration directory cannot be watched."));
         }
     }
     co_return 0;

@@ -5,6 +5,8 @@
 
 #include "GCloudModels/AppError.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -46,8 +48,9 @@ bool Terminal::print(const QByteArray &bytes)
 {
     const int error = writeAll(STDOUT_FILENO, bytes);
     if (error != 0 && error != EPIPE) {
-        throw AppError::unknown(u"Could not write to standard output: "_s
-                                + QString::fromLocal8Bit(std::strerror(error)));
+        throw AppError::unknown(
+            QCoreApplication::translate("Terminal", "Could not write to standard output: %1")
+                .arg(QString::fromLocal8Bit(std::strerror(error))));
     }
     return error == 0;
 }
