@@ -36,6 +36,9 @@ inside dpkg -l torvi torvictl | tail -n 2
 say "run"
 inside torvictl --version
 inside torvi --version
+inside sh -c "ls /usr/share/bash-completion/completions/torvi* /usr/share/zsh/vendor-completions/_torvi* \
+    /usr/share/fish/vendor_completions.d/torvi*"
+inside sh -c 'install -Dm644 -t ~/.config/autostart /usr/share/applications/com.veldra.Torvi.desktop'
 inside torvictl status
 inside torvictl doctor || [[ $? == 1 ]] # there is no gcloud
 inside torvi --doctor || [[ $? == 1 ]]

@@ -29,7 +29,7 @@ struct Panel
 {
     QStringView program;
     QStringView desktop;
-    bool showsTitle;
+    bool showsTitle = false;
 };
 
 constexpr std::array kPanels{
