@@ -98,24 +98,21 @@ QList<Row> Diagnosis::rows() const
     QList<Row> rows{
         program,
         { u"Qt"_s, QString::fromLatin1(qVersion()) },
-        { u"gcloud"_s,
-          gcloud ? shortened(gcloud->path, homeDirectory) : Diagnosis::tr("not found") },
-        { Diagnosis::tr("Found by"),
-          gcloud ? Diagnosis::tr("%1, in %2 ms").arg(nameOf(gcloud->stage)).arg(searchTime.count())
-                 : Diagnosis::tr("nothing, in %1 ms").arg(searchTime.count()) },
+        { u"gcloud"_s, gcloud ? shortened(gcloud->path, homeDirectory) : tr("not found") },
+        { tr("Found by"),
+          gcloud ? tr("%1, in %2 ms").arg(nameOf(gcloud->stage)).arg(searchTime.count())
+                 : tr("nothing, in %1 ms").arg(searchTime.count()) },
     };
     if (gcloud) {
-        rows.append({ Diagnosis::tr("gcloud version"),
-                      gcloudVersion.value_or(Diagnosis::tr("it does not tell")) });
+        rows.append({ tr("gcloud version"), gcloudVersion.value_or(tr("it does not tell")) });
     }
     if (pathSetting && !(gcloud && gcloud->stage == Stage::setting)) {
         rows.append({ u"gcloudPathOverride"_s,
-                      Diagnosis::tr("%1 (cannot be executed)")
-                          .arg(shortened(*pathSetting, homeDirectory)) });
+                      tr("%1 (cannot be executed)").arg(shortened(*pathSetting, homeDirectory)) });
     }
-    rows.append({ Diagnosis::tr("Configuration"), existing(configDirectory, homeDirectory) });
-    rows.append({ Diagnosis::tr("Preferences"), existing(preferencesFile, homeDirectory) });
-    rows.append({ Diagnosis::tr("Environment"), obeyedVariables(environment) });
+    rows.append({ tr("Configuration"), existing(configDirectory, homeDirectory) });
+    rows.append({ tr("Preferences"), existing(preferencesFile, homeDirectory) });
+    rows.append({ tr("Environment"), obeyedVariables(environment) });
     return rows;
 }
 
@@ -124,7 +121,7 @@ std::optional<QString> Diagnosis::advice() const
     if (!gcloud || gcloud->stage == Stage::setting) {
         return std::nullopt;
     }
-    return Diagnosis::tr("To have gcloud found at once: %1")
+    return tr("To have gcloud found at once: %1")
         .arg(u"torvictl settings set gcloudPathOverride \"$(torvictl locate)\""_s);
 }
 

@@ -3,8 +3,8 @@
 
 #include "torvictl/BarLine.h"
 
-#include "torvictl/Json.h"
 #include "GCloudStateManager/Rows.h"
+#include "torvictl/Json.h"
 
 #include <QCoreApplication>
 

@@ -8,67 +8,11 @@ import subprocess
 
 import desktop as desktops
 from desktop import PATIENCE, Desktop, wait_for
+from panel_settings import GNOME, GNOME_BINDING, LXQT, LXQT_PANEL, SWAY, WAYBAR
 from test_xfce_panel import PANEL as XFCE_PANEL
 
 WIDTH, HEIGHT = 1280, 900
 TOOL_TIP = 10_000  # bytes of a picture that one changes, where a mere highlight changes fewer
-
-LXQT_PANEL = """\
-panels=panel1
-[panel1]
-plugins=spacer,statusnotifier
-position=Top
-desktop=0
-height=32
-iconSize=22
-[spacer]
-type=spacer
-[statusnotifier]
-type=statusnotifier
-alignment=Right
-"""
-
-LXQT = "[General]\ntheme=Clearlooks\nicon_theme=breeze\n"  # as Debian has it
-
-GNOME = """\
-[org/gnome/shell]
-enabled-extensions=[{extensions}]
-disable-user-extensions=false
-welcome-dialog-last-shown-version='99'
-
-[org/gnome/desktop/interface]
-enable-animations=false
-
-[org/gnome/desktop/notifications]
-show-banners=false
-
-[org/gnome/settings-daemon/plugins/media-keys]
-custom-keybindings=['{binding}/']
-
-[{binding_section}]
-name='Torvi'
-binding='<Super>g'
-command='{program} --toggle'
-"""
-GNOME_BINDING = "/org/gnome/settings-daemon/plugins/media-keys/custom-keybindings/torvi"
-
-
-SWAY = """\
-output * resolution {width}x{height}
-output * background #305070 solid_color
-bar {{
-    swaybar_command waybar
-}}
-bindsym Mod4+g exec {program} --toggle
-exec echo $WAYLAND_DISPLAY $DISPLAY > {folder}/displays
-"""
-
-WAYBAR = """\
-{
-    "layer": "top", "position": "top", "height": 28,
-    "modules-left": ["sway/workspaces"], "modules-right": ["tray"]
-}
-"""
 
 
 class Panel(Desktop):

@@ -131,7 +131,7 @@ def names_our_packages(_session, command):
 
 def gsettings(_session, command):
     """Needs GNOME's schemas; tests/desktop/panels.py binds the key with the same settings."""
-    binding = documents.read("tests/desktop/panels.py")
+    binding = documents.read("tests/desktop/panel_settings.py")
     key = re.search(r" set \S+ ([a-z-]+) ", command)
     if key and key[1] not in binding:
         raise UnknownCommand(command)
