@@ -6,6 +6,7 @@
 #include "GCloudCLI/GCloudFile.h"
 #include "GCloudModels/AppError.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -64,7 +65,9 @@ QStringList rows(sqlite3 *database, sqlite3_stmt *statement)
         }
     }
     if (status != SQLITE_DONE) { // a list that ends early would look whole
-        throw AppError::parseError(u"SQLite step failed: "_s + message(database));
+        throw AppError::parseError(
+            QCoreApplication::translate("CredentialsDatabase", "SQLite step failed: %1")
+                .arg(message(database)));
     }
     return result;
 }
@@ -79,7 +82,9 @@ QStringList accounts(sqlite3 *database)
                                           &prepared, nullptr);
     const Statement statement(prepared, &sqlite3_finalize);
     if (status != SQLITE_OK) {
-        throw AppError::parseError(u"SQLite prepare failed: "_s + message(database));
+        throw AppError::parseError(
+            QCoreApplication::translate("CredentialsDatabase", "SQLite prepare failed: %1")
+                .arg(message(database)));
     }
     sqlite3_busy_timeout(database, static_cast<int>(deadline.remainingTime()));
     return rows(database, prepared);

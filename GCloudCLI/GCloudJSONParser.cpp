@@ -8,6 +8,8 @@
 #include "GCloudCLI/JSONObject.h"
 #include "GCloudModels/AppError.h"
 
+#include <QCoreApplication>
+
 #include <functional>
 #include <stdexcept>
 #include <utility>
@@ -41,7 +43,9 @@ auto parsedList(const QString &text, Mapping mapped)
     try {
         return decodedList<Record>(text, mapped);
     } catch (const std::runtime_error &error) {
-        throw AppError::parseError(u"Failed to parse JSON: "_s + QString::fromUtf8(error.what()));
+        throw AppError::parseError(
+            QCoreApplication::translate("GCloudJSONParser", "Failed to parse JSON: %1")
+                .arg(QString::fromUtf8(error.what())));
     }
 }
 

@@ -56,19 +56,27 @@ GCloudPathResolver::GCloudPathResolver(std::optional<QString> customPath, Search
 
 QString GCloudPathResolver::resolve(std::stop_token stop) const
 {
-    if (const auto path = fromSetting()) {
-        return *path;
-    }
-    if (const auto path = fromWellKnownLocations()) {
-        return *path;
-    }
-    if (const auto path = fromStartUpFiles()) {
-        return *path;
-    }
-    if (const auto path = fromLoginShell(stop)) {
-        return *path;
+    if (auto found = find(stop)) {
+        return std::move(found->path);
     }
     throw AppError::gcloudNotFound();
+}
+
+std::optional<GCloudPathResolver::Found> GCloudPathResolver::find(const std::stop_token &stop) const
+{
+    if (const auto path = fromSetting()) {
+        return Found{ *path, Stage::setting };
+    }
+    if (const auto path = fromWellKnownLocations()) {
+        return Found{ *path, Stage::wellKnownLocation };
+    }
+    if (const auto path = fromStartUpFiles()) {
+        return Found{ *path, Stage::startUpFile };
+    }
+    if (const auto path = fromLoginShell(stop)) {
+        return Found{ *path, Stage::loginShell };
+    }
+    return std::nullopt;
 }
 
 std::optional<QString> GCloudPathResolver::fromSetting() const

@@ -19,11 +19,27 @@ namespace torvi {
 class GCloudPathResolver final : public GCloudPathResolving
 {
 public:
+    /// From cheap to expensive.
+    enum class Stage {
+        setting,
+        wellKnownLocation,
+        startUpFile,
+        loginShell,
+    };
+
+    struct Found
+    {
+        QString path;
+        Stage stage;
+    };
+
     /// `customPath` is taken as it stands when it is executable, without expansion of "~".
     explicit GCloudPathResolver(std::optional<QString> customPath,
                                 SearchPlaces places = SearchPlaces::ofThisUser());
 
     [[nodiscard]] QString resolve(std::stop_token stop = {}) const override;
+    /// resolve() that also tells by which stage, and yields nothing in place of its error.
+    [[nodiscard]] std::optional<Found> find(const std::stop_token &stop = {}) const;
 
 private:
     [[nodiscard]] std::optional<QString> fromSetting() const;

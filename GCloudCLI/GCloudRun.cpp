@@ -13,6 +13,7 @@
 #include "GCloudCLI/Utf8.h"
 #include "GCloudModels/AppError.h"
 
+#include <QCoreApplication>
 #include <QPromise>
 
 #include <system_error>
@@ -26,14 +27,16 @@ namespace {
 
 AppError launchFailure(const std::system_error &error)
 {
-    return AppError::commandFailed(-1,
-                                   u"Failed to launch process: "_s
-                                       + QString::fromLocal8Bit(error.code().message().c_str()));
+    return AppError::commandFailed(
+        -1,
+        QCoreApplication::translate("GCloudRun", "Failed to launch process: %1")
+            .arg(QString::fromLocal8Bit(error.code().message().c_str())));
 }
 
 AppError stopped()
 {
-    return AppError::unknown(u"gcloud was ended because Torvi is closing."_s);
+    return AppError::unknown(
+        QCoreApplication::translate("GCloudRun", "gcloud was ended because Torvi is closing."));
 }
 
 void handOverSignInAddress(QByteArrayView chunk, BrowserAuthHandler &handler)

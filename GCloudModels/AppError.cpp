@@ -3,9 +3,9 @@
 
 #include "GCloudModels/AppError.h"
 
-#include <utility>
+#include <QCoreApplication>
 
-using namespace Qt::StringLiterals;
+#include <utility>
 
 namespace torvi {
 
@@ -15,18 +15,20 @@ struct Description
 {
     QString operator()(const AppError::CommandFailed &error) const
     {
-        return u"gcloud command failed (exit "_s + QString::number(error.exitCode) + u"): "_s
-            + error.stderr;
+        return QCoreApplication::translate("AppError", "gcloud command failed (exit %1): %2")
+            .arg(QString::number(error.exitCode), error.stderr);
     }
 
     QString operator()(const AppError::ConfigFileUnreadable &error) const
     {
-        return u"Could not read config file: "_s + error.path;
+        return QCoreApplication::translate("AppError", "Could not read config file: %1")
+            .arg(error.path);
     }
 
     QString operator()(const AppError::ParseError &error) const
     {
-        return u"Failed to parse gcloud output: "_s + error.detail;
+        return QCoreApplication::translate("AppError", "Failed to parse gcloud output: %1")
+            .arg(error.detail);
     }
 
     QString operator()(const AppError::Unknown &error) const
@@ -36,7 +38,8 @@ struct Description
 
     QString operator()(const AppError::GCloudNotFound &) const
     {
-        return u"gcloud CLI not found. Please install the Google Cloud SDK."_s;
+        return QCoreApplication::translate(
+            "AppError", "gcloud CLI not found. Please install the Google Cloud SDK.");
     }
 };
 

@@ -114,6 +114,11 @@ void AuthStateManager::setLastError(std::optional<AppError> error)
     assign(m_lastError, std::move(error), &AuthStateManager::lastErrorChanged);
 }
 
+const GCloudConfigReading &AuthStateManager::configReader() const
+{
+    return *m_configReader;
+}
+
 FavoritesStoring &AuthStateManager::favoritesStore() const
 {
     return *m_favoritesStore;

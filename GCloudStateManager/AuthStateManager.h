@@ -64,6 +64,7 @@ public:
     [[nodiscard]] const std::optional<AppError> &lastError() const;
     void setLastError(std::optional<AppError> error);
 
+    [[nodiscard]] const GCloudConfigReading &configReader() const;
     [[nodiscard]] FavoritesStoring &favoritesStore() const;
     [[nodiscard]] RecentStoring &recentStore() const;
     [[nodiscard]] ServiceAccountStoring &serviceAccountStore() const;

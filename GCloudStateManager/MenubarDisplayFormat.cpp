@@ -3,6 +3,8 @@
 
 #include "GCloudStateManager/MenubarDisplayFormat.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace torvi {
@@ -11,11 +13,11 @@ QString label(MenubarDisplayFormat format)
 {
     switch (format) {
     case MenubarDisplayFormat::iconOnly:
-        return u"Icon only"_s;
+        return QCoreApplication::translate("MenubarDisplayFormat", "Icon only");
     case MenubarDisplayFormat::iconAndProject:
-        return u"Icon + Project"_s;
+        return QCoreApplication::translate("MenubarDisplayFormat", "Icon + Project");
     case MenubarDisplayFormat::iconAndProjectAndAccount:
-        return u"Icon + Project + Account"_s;
+        return QCoreApplication::translate("MenubarDisplayFormat", "Icon + Project + Account");
     }
     Q_UNREACHABLE();
 }

@@ -20,6 +20,7 @@ struct Options
 {
     Request request = Request::start;
     bool isTitleLive = false;
+    bool wantsDiagnosis = false; ///< in place of the request
 
     bool operator==(const Options &) const = default;
 };

@@ -6,6 +6,7 @@
 #include "GCloudCLI/Signals.h"
 #include "Torvi/AppBrowserAuthHandler.h"
 #include "Torvi/AppDelegate.h"
+#include "Torvi/Doctor.h"
 #include "Torvi/Linux/LinuxDesktop.h"
 #include "Torvi/Linux/Session.h"
 #include "Torvi/Linux/SingleInstance.h"
@@ -57,13 +58,16 @@ int passOn(Request request, int argc, char **argv)
         if (request == Request::quit) {
             return 0;
         }
-        printError(u"There is no display to show anything on."_s);
+        printError(
+            QCoreApplication::translate("VeldraApp", "There is no display to show anything on."));
         return 1;
     case Outcome::noAnswer:
-        printError(u"Torvi is running, but it does not answer."_s);
+        printError(
+            QCoreApplication::translate("VeldraApp", "Torvi is running, but it does not answer."));
         return 1;
     case Outcome::noBus:
-        printError(u"There is no session bus by which to reach a running Torvi."_s);
+        printError(QCoreApplication::translate(
+            "VeldraApp", "There is no session bus by which to reach a running Torvi."));
         return 1;
     }
     Q_UNREACHABLE();
@@ -91,8 +95,10 @@ int runDelegate(const CommandLine::Options &options, Outcome outcome, AppDelegat
     delegate.applicationDidFinishLaunching();
     if (outcome == Outcome::noBus) {
         // Neither an item nor another start could ever open anything.
-        printError(u"There is no session bus, so there is no status item; the manager window is "
-                   u"opened, and Torvi ends with it."_s);
+        printError(QCoreApplication::translate(
+            "VeldraApp",
+            "There is no session bus, so there is no status item; the manager window is "
+            "opened, and Torvi ends with it."));
         QGuiApplication::setQuitOnLastWindowClosed(true);
         delegate.openManagerWindow();
     } else if (options.request != Request::start) {
@@ -128,13 +134,29 @@ int runApplication(const CommandLine::Options &options, int argc, char **argv)
     case Outcome::passedOn:
         return 0;
     case Outcome::noAnswer:
-        printError(u"Torvi is running, but it does not answer."_s);
+        printError(
+            QCoreApplication::translate("VeldraApp", "Torvi is running, but it does not answer."));
         return 1;
     case Outcome::isFirst:
     case Outcome::noBus:
         return runDelegate(options, outcome, delegate);
     }
     Q_UNREACHABLE();
+}
+
+int diagnose(int argc, char **argv)
+{
+    Signals::block();
+    if (!Session::hasDisplay()) {
+        const QCoreApplication application(argc, argv);
+        const Signals signals([](int number) { QCoreApplication::exit(128 + number); });
+        return Doctor::run();
+    }
+    Session::preferX11();
+    const Application application(argc, argv);
+    Session::forgetPreference();
+    const Signals signals([](int number) { QCoreApplication::exit(128 + number); });
+    return Doctor::run();
 }
 
 } // namespace
@@ -146,6 +168,9 @@ int VeldraApp::run(int argc, char **argv)
         return *exitCode;
     }
     const auto &options = std::get<CommandLine::Options>(parsed);
+    if (options.wantsDiagnosis) {
+        return diagnose(argc, argv);
+    }
     if (options.request == Request::quit || !Session::hasDisplay()) {
         return passOn(options.request, argc, argv);
     }

@@ -3,7 +3,9 @@
 
 #include "VeldraUI/ADCStatus.h"
 
-#include "VeldraUI/ADCWords.h"
+#include "GCloudStateManager/ADCWords.h"
+
+#include <QCoreApplication>
 
 #include <utility>
 
@@ -30,13 +32,13 @@ QString ADCStatus::description() const
 {
     switch (m_state.type) {
     case ADCType::userCredentials:
-        return u"User credentials"_s;
+        return QCoreApplication::translate("ADCStatus", "User credentials");
     case ADCType::serviceAccountKey:
-        return u"Service account key"_s;
+        return QCoreApplication::translate("ADCStatus", "Service account key");
     case ADCType::impersonatedServiceAccount:
-        return u"Impersonated service account"_s;
+        return QCoreApplication::translate("ADCStatus", "Impersonated service account");
     case ADCType::none:
-        return u"Not configured"_s;
+        return QCoreApplication::translate("ADCStatus", "Not configured");
     }
     Q_UNREACHABLE();
 }
@@ -60,13 +62,13 @@ QString ADCStatus::typeName() const
 {
     switch (m_state.type) {
     case ADCType::userCredentials:
-        return u"User Credentials (authorized_user)"_s;
+        return QCoreApplication::translate("ADCStatus", "User Credentials (authorized_user)");
     case ADCType::serviceAccountKey:
-        return u"Service Account Key"_s;
+        return QCoreApplication::translate("ADCStatus", "Service Account Key");
     case ADCType::impersonatedServiceAccount:
-        return u"Impersonated Service Account"_s;
+        return QCoreApplication::translate("ADCStatus", "Impersonated Service Account");
     case ADCType::none:
-        return u"Not Configured"_s;
+        return QCoreApplication::translate("ADCStatus", "Not Configured");
     }
     Q_UNREACHABLE();
 }

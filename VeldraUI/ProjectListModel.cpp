@@ -40,7 +40,8 @@ QString groupTitle(const ProjectRow &row)
     if (!row.hasGroupTitle) {
         return {};
     }
-    return row.group == ProjectRow::Recent ? u"Recently Used"_s : u"All Projects"_s;
+    return row.group == ProjectRow::Recent ? ProjectListModel::tr("Recently Used")
+                                           : ProjectListModel::tr("All Projects");
 }
 
 std::vector<int> identity(qsizetype count)

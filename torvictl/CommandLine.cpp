@@ -7,6 +7,8 @@
 #include "torvictl/Operations.h"
 #include "torvictl/SettingChange.h"
 
+#include <QCoreApplication>
+
 #include <CLI/CLI.hpp>
 
 #include <iostream>
@@ -21,6 +23,7 @@ namespace {
 
 using CommandLine::Operation;
 using Operations::Format;
+using Operations::StatusFormat;
 
 /// Checked to be UTF-8 before anything is parsed.
 QString text(const std::string &argument)
@@ -36,9 +39,25 @@ ImpersonationMode impersonationMode(const std::string &name)
     return name == "cliOnly" ? ImpersonationMode::cliOnly : ImpersonationMode::adcOnly;
 }
 
+StatusFormat statusFormat(bool isJson, const std::optional<std::string> &bar)
+{
+    if (!bar) {
+        return isJson ? Format::json : Format::text;
+    }
+    if (*bar == "waybar") {
+        return BarFormat::waybar;
+    }
+    if (*bar == "polybar") {
+        return BarFormat::polybar;
+    }
+    return *bar == "i3blocks" ? BarFormat::i3blocks : BarFormat::plain;
+}
+
 /// Builds the commands one by one; each leaves what it asks for in `operation` when it is given.
 class Commands
 {
+    Q_DECLARE_TR_FUNCTIONS(torvi::CommandLine)
+
 public:
     explicit Commands(CLI::App &app)
         : m_app(app)
@@ -62,31 +81,48 @@ private:
         return pointer;
     }
 
-    CLI::App *add(const char *name, const char *description)
+    CLI::App *add(const char *name, const QString &description)
     {
-        return m_app.add_subcommand(name, description);
+        return m_app.add_subcommand(name, description.toStdString());
     }
 
     using WithFormat = QCoro::Task<int> (*)(DependencyContainer &, Format);
+    using WithStatusFormat = QCoro::Task<int> (*)(DependencyContainer &, StatusFormat);
     using WithText = QCoro::Task<int> (*)(DependencyContainer &, QString);
     using WithTextAndFormat = QCoro::Task<int> (*)(DependencyContainer &, QString, Format);
 
     std::shared_ptr<bool> addJsonFlag(CLI::App *command)
     {
         auto isJson = value<bool>();
-        command->add_flag("--json", *isJson, "Print JSON, one line for each answer");
+        command->add_flag("--json", *isJson,
+                          tr("Print JSON, one line for each answer").toStdString());
         return isJson;
     }
 
+    void addStatus(const char *name, const QString &description, WithStatusFormat run)
+    {
+        CLI::App *command = add(name, description);
+        auto isJson = addJsonFlag(command);
+        auto bar = value<std::optional<std::string>>();
+        command
+            ->add_option("--format", *bar, tr("Print one line for a bar or a prompt").toStdString())
+            ->check(CLI::IsMember({ "waybar", "polybar", "i3blocks", "plain" }))
+            ->excludes("--json");
+        command->callback([this, run, isJson, bar] {
+            operation = [run, format = statusFormat(*isJson, *bar)](
+                            DependencyContainer &container) { return run(container, format); };
+        });
+    }
+
     std::shared_ptr<std::string> addText(CLI::App *command, const char *name,
-                                         const char *description)
+                                         const QString &description)
     {
         auto argument = value<std::string>();
-        command->add_option(name, *argument, description)->required();
+        command->add_option(name, *argument, description.toStdString())->required();
         return argument;
     }
 
-    CLI::App *addQuery(const char *name, const char *description, WithFormat run)
+    CLI::App *addQuery(const char *name, const QString &description, WithFormat run)
     {
         CLI::App *command = add(name, description);
         auto isJson = addJsonFlag(command);
@@ -100,8 +136,8 @@ private:
         return command;
     }
 
-    void addTextQuery(const char *name, const char *description, const char *argument,
-                      const char *argumentDescription, WithTextAndFormat run)
+    void addTextQuery(const char *name, const QString &description, const char *argument,
+                      const QString &argumentDescription, WithTextAndFormat run)
     {
         CLI::App *command = add(name, description);
         auto given = addText(command, argument, argumentDescription);
@@ -113,8 +149,8 @@ private:
         });
     }
 
-    void addTextCommand(const char *name, const char *description, const char *argument,
-                        const char *argumentDescription, WithText run)
+    void addTextCommand(const char *name, const QString &description, const char *argument,
+                        const QString &argumentDescription, WithText run)
     {
         CLI::App *command = add(name, description);
         auto given = addText(command, argument, argumentDescription);
@@ -127,50 +163,52 @@ private:
 
     void addQueries()
     {
-        addQuery("status", "Show what is active, from gcloud's files", &Operations::status);
-        addQuery("watch", "Show what is active, again at each change", &Operations::watch);
-        addQuery("projects", "List the projects that the active account sees",
+        addStatus("status", tr("Show what is active, from gcloud's files"), &Operations::status);
+        addStatus("watch", tr("Show what is active, again at each change"), &Operations::watch);
+        addQuery("projects", tr("List the projects that the active account sees"),
                  &Operations::projects);
-        add("identity-token", "Print an identity token of the active account")->callback([this] {
-            operation = &Operations::identityToken;
-        });
-        add("locate", "Print the path of the gcloud that is used")->callback([this] {
+        add("identity-token", tr("Print an identity token of the active account"))
+            ->callback([this] { operation = &Operations::identityToken; });
+        add("locate", tr("Print the path of the gcloud that is used"))->callback([this] {
             operation = &Operations::locate;
         });
+        add("doctor", tr("Tell what Torvi found on this machine, without anything private"))
+            ->callback([this] { operation = &Operations::doctor; });
     }
 
     void addOperations()
     {
-        addTextCommand("switch-project", "Make another project active", "ID", "Project id",
+        addTextCommand("switch-project", tr("Make another project active"), "ID", tr("Project id"),
                        &Operations::switchProject);
-        addTextCommand("switch-account", "Make another account active", "EMAIL",
-                       "A credentialed account", &Operations::switchAccount);
-        addTextCommand("activate-configuration", "Activate a named configuration", "NAME",
-                       "Configuration name", &Operations::activateConfiguration);
+        addTextCommand("switch-account", tr("Make another account active"), "EMAIL",
+                       tr("A credentialed account"), &Operations::switchAccount);
+        addTextCommand("activate-configuration", tr("Activate a named configuration"), "NAME",
+                       tr("Configuration name"), &Operations::activateConfiguration);
         addTextCommand("create-configuration",
-                       "Create a named configuration; gcloud also activates it", "NAME",
-                       "Configuration name", &Operations::createConfiguration);
-        addTextCommand("delete-configuration", "Delete a named configuration that is not active",
-                       "NAME", "Configuration name", &Operations::deleteConfiguration);
+                       tr("Create a named configuration; gcloud also activates it"), "NAME",
+                       tr("Configuration name"), &Operations::createConfiguration);
+        addTextCommand("delete-configuration",
+                       tr("Delete a named configuration that is not active"), "NAME",
+                       tr("Configuration name"), &Operations::deleteConfiguration);
         addTextCommand("set-quota-project",
-                       "Set the quota project of the Application Default Credentials", "ID",
-                       "Project id", &Operations::setQuotaProject);
-        add("adc-login", "Log in to Application Default Credentials with the browser")
+                       tr("Set the quota project of the Application Default Credentials"), "ID",
+                       tr("Project id"), &Operations::setQuotaProject);
+        add("adc-login", tr("Log in to Application Default Credentials with the browser"))
             ->callback([this] { operation = &Operations::adcLogin; });
     }
 
     std::shared_ptr<std::string> addMode(CLI::App *command)
     {
         auto mode = value<std::string>("adcOnly");
-        command->add_option("--mode", *mode, "adcOnly (default), cliOnly or both")
+        command->add_option("--mode", *mode, tr("adcOnly (default), cliOnly or both").toStdString())
             ->check(CLI::IsMember({ "adcOnly", "cliOnly", "both" }));
         return mode;
     }
 
     void addImpersonation()
     {
-        CLI::App *impersonate = add("impersonate", "Impersonate a service account");
-        auto email = addText(impersonate, "EMAIL", "Service account");
+        CLI::App *impersonate = add("impersonate", tr("Impersonate a service account"));
+        auto email = addText(impersonate, "EMAIL", tr("Service account"));
         auto mode = addMode(impersonate);
         impersonate->callback([this, email, mode] {
             operation = [email = text(*email),
@@ -179,7 +217,7 @@ private:
             };
         });
         CLI::App *clear = add("clear-impersonation",
-                              "Stop impersonating; for ADC this revokes the credentials");
+                              tr("Stop impersonating; for ADC this revokes the credentials"));
         auto clearedMode = addMode(clear);
         clear->callback([this, clearedMode] {
             operation = [mode = impersonationMode(*clearedMode)](DependencyContainer &container) {
@@ -190,10 +228,10 @@ private:
 
     void addServiceAccounts()
     {
-        addTextQuery("service-accounts", "List the service accounts of a project", "PROJECT",
-                     "Project id", &Operations::serviceAccounts);
-        addTextQuery("saved-accounts", "List the saved service accounts of a project", "PROJECT",
-                     "Project id", &Operations::savedAccounts);
+        addTextQuery("service-accounts", tr("List the service accounts of a project"), "PROJECT",
+                     tr("Project id"), &Operations::serviceAccounts);
+        addTextQuery("saved-accounts", tr("List the saved service accounts of a project"),
+                     "PROJECT", tr("Project id"), &Operations::savedAccounts);
         addSaveAccount();
         addForgetAccount();
     }
@@ -201,17 +239,17 @@ private:
     std::shared_ptr<std::string> addProject(CLI::App *command)
     {
         auto project = value<std::string>();
-        command->add_option("--project", *project, "Project id")->required();
+        command->add_option("--project", *project, tr("Project id").toStdString())->required();
         return project;
     }
 
     void addSaveAccount()
     {
-        CLI::App *save = add("save-account", "Save a service account of a project");
-        auto email = addText(save, "EMAIL", "Service account");
+        CLI::App *save = add("save-account", tr("Save a service account of a project"));
+        auto email = addText(save, "EMAIL", tr("Service account"));
         auto project = addProject(save);
         auto label = value<std::optional<std::string>>();
-        save->add_option("--label", *label, "Name to show");
+        save->add_option("--label", *label, tr("Name to show").toStdString());
         save->callback([this, email, project, label] {
             ServiceAccount account{ text(*email), text(*project), std::nullopt };
             if (*label) {
@@ -225,8 +263,8 @@ private:
 
     void addForgetAccount()
     {
-        CLI::App *forget = add("forget-account", "Forget a saved service account of a project");
-        auto email = addText(forget, "EMAIL", "Service account");
+        CLI::App *forget = add("forget-account", tr("Forget a saved service account of a project"));
+        auto email = addText(forget, "EMAIL", tr("Service account"));
         auto project = addProject(forget);
         forget->callback([this, email, project] {
             operation
@@ -238,14 +276,14 @@ private:
 
     void addPreferences()
     {
-        addQuery("recents", "List the ids of recently used projects, newest first",
+        addQuery("recents", tr("List the ids of recently used projects, newest first"),
                  &Operations::recents);
-        addTextCommand("pin", "Pin a project", "ID", "Project id", &Operations::pin);
-        addTextCommand("unpin", "Unpin a project", "ID", "Project id", &Operations::unpin);
-        CLI::App *settings = addQuery("settings", "Show the settings", &Operations::settings);
-        CLI::App *set = settings->add_subcommand("set", "Change one setting");
-        auto name = addText(set, "NAME", "The setting, as `torvictl settings` names it");
-        auto newValue = addText(set, "VALUE", "Its new value");
+        addTextCommand("pin", tr("Pin a project"), "ID", tr("Project id"), &Operations::pin);
+        addTextCommand("unpin", tr("Unpin a project"), "ID", tr("Project id"), &Operations::unpin);
+        CLI::App *settings = addQuery("settings", tr("Show the settings"), &Operations::settings);
+        CLI::App *set = settings->add_subcommand("set", tr("Change one setting").toStdString());
+        auto name = addText(set, "NAME", tr("The setting, as `torvictl settings` names it"));
+        auto newValue = addText(set, "VALUE", tr("Its new value"));
         set->callback([this, name, newValue] {
             try {
                 operation = [change = settingChange(text(*name), text(*newValue))](
@@ -262,9 +300,10 @@ private:
     std::vector<std::shared_ptr<void>> m_values;
 };
 
-int usageError(const std::string &message)
+int usageError(const QString &message)
 {
-    std::cerr << message << "\nRun with --help for more information." << std::endl;
+    std::cerr << message.toStdString() << '\n'
+              << Commands::tr("Run with --help for more information.").toStdString() << std::endl;
     return CommandLine::kUsageError;
 }
 
@@ -272,14 +311,16 @@ int usageError(const std::string &message)
 
 std::variant<Operation, int> CommandLine::parse(int argc, const char *const *argv)
 {
-    CLI::App app("Shows and changes the Google Cloud context of the gcloud command line.",
+    CLI::App app(Commands::tr("Shows and changes the Google Cloud context of the gcloud "
+                              "command line.")
+                     .toStdString(),
                  "torvictl");
     app.set_version_flag("--version", "torvictl " TORVI_VERSION);
     app.require_subcommand(1);
     Commands commands(app);
     for (int i = 1; i < argc; ++i) {
         if (!decodeUtf8(argv[i])) {
-            return usageError("Argument " + std::to_string(i) + " is not UTF-8.");
+            return usageError(Commands::tr("Argument %1 is not UTF-8.").arg(i));
         }
     }
     try {
@@ -287,7 +328,7 @@ std::variant<Operation, int> CommandLine::parse(int argc, const char *const *arg
     } catch (const CLI::Success &printed) { // help and version
         return app.exit(printed);
     } catch (const CLI::ParseError &error) {
-        return usageError(error.what());
+        return usageError(QString::fromUtf8(error.what()));
     }
     return commands.operation;
 }

@@ -99,6 +99,14 @@ QByteArray json(const AuthContext &context)
         .text();
 }
 
+QByteArray json(const EnvironmentOverride &environmentOverride)
+{
+    return JsonObject()
+        .member("variable", environmentOverride.variable)
+        .member("value", environmentOverride.value)
+        .text();
+}
+
 QByteArray JsonObject::text() const
 {
     return '{' + m_members.join(',') + '}';

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "GCloudModels/AuthContext.h"
+#include "GCloudStateManager/EnvironmentOverride.h"
 
 #include <QByteArray>
 #include <QList>
@@ -28,6 +29,7 @@ namespace torvi {
 [[nodiscard]] QByteArray json(const ServiceAccount &account);
 [[nodiscard]] QByteArray json(const ADCState &state);
 [[nodiscard]] QByteArray json(const AuthContext &context);
+[[nodiscard]] QByteArray json(const EnvironmentOverride &environmentOverride);
 
 template <typename T>
 [[nodiscard]] QByteArray json(const std::optional<T> &value)

@@ -3,17 +3,14 @@
 
 #include "torvictl/Operations.h"
 
+#include "GCloudStateManager/Background.h"
+#include "GCloudStateManager/EnvironmentOverride.h"
+#include "GCloudStateManager/Rows.h"
 #include "torvictl/Json.h"
-#include "torvictl/Rows.h"
 #include "torvictl/Terminal.h"
 
-#include <QFuture>
-#include <QPromise>
+#include <QCoreApplication>
 #include <qcoro/qcorofuture.h>
-
-#include <stop_token>
-#include <thread>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +19,7 @@ namespace torvi {
 namespace {
 
 using Operations::Format;
+using Operations::StatusFormat;
 
 bool printLine(const QByteArray &line)
 {
@@ -56,23 +54,49 @@ int exitCode(const AuthStateManager &manager)
     return 0;
 }
 
-/// Prints what the manager holds; false when nobody reads it any more.
-bool printStatus(const AuthStateManager &manager, Format format)
+using Overrides = QList<EnvironmentOverride>;
+
+QByteArray statusJson(const AuthStateManager &manager, const Overrides &overrides)
 {
-    if (format == Format::text) {
-        return Terminal::print(
-            aligned(contextRows(manager.currentContext()), Terminal::colours()).toUtf8());
-    }
     std::optional<QString> lastError;
     if (manager.lastError()) {
         lastError = manager.lastError()->errorDescription();
     }
-    return printLine(JsonObject()
-                         .member("currentContext", manager.currentContext())
-                         .member("accounts", manager.accounts())
-                         .member("configurations", manager.configurations())
-                         .member("lastError", lastError)
-                         .text());
+    JsonObject object;
+    object.member("currentContext", manager.currentContext())
+        .member("accounts", manager.accounts())
+        .member("configurations", manager.configurations())
+        .member("lastError", lastError);
+    if (!overrides.isEmpty()) {
+        object.member("environmentOverrides", overrides);
+    }
+    return object.text();
+}
+
+QStringList notes(const AuthStateManager &manager, const Overrides &overrides)
+{
+    QStringList notes;
+    for (const EnvironmentOverride &each : overrides) {
+        notes.append(each.description());
+    }
+    if (manager.lastError()) {
+        notes.append(manager.lastError()->errorDescription());
+    }
+    return notes;
+}
+
+/// Prints what the manager holds; false when nobody reads it any more.
+bool printStatus(const AuthStateManager &manager, const Overrides &overrides,
+                 const StatusFormat &format)
+{
+    if (const auto *bar = std::get_if<BarFormat>(&format)) {
+        return printLine(barLine(manager.currentContext(), notes(manager, overrides), *bar));
+    }
+    if (std::get<Format>(format) == Format::json) {
+        return printLine(statusJson(manager, overrides));
+    }
+    return Terminal::print(
+        aligned(contextRows(manager.currentContext()), Terminal::colours()).toUtf8());
 }
 
 QCoro::Task<int> exitCodeAfter(QCoro::Task<> operation, AuthStateManager &manager)
@@ -83,15 +107,19 @@ QCoro::Task<int> exitCodeAfter(QCoro::Task<> operation, AuthStateManager &manage
 
 } // namespace
 
-QCoro::Task<int> Operations::status(DependencyContainer &container, Format format)
+QCoro::Task<int> Operations::status(DependencyContainer &container, StatusFormat format)
 {
     AuthStateManager &manager = container.stateManager();
     co_await manager.reloadFromFiles();
-    (void)printStatus(manager, format);
+    const auto overrides = EnvironmentOverride::all(manager.configReader());
+    (void)printStatus(manager, overrides, format);
+    for (const EnvironmentOverride &each : overrides) {
+        Terminal::printError(each.description());
+    }
     co_return exitCode(manager);
 }
 
-QCoro::Task<int> Operations::watch(DependencyContainer &container, Format format)
+QCoro::Task<int> Operations::watch(DependencyContainer &container, StatusFormat format)
 {
     AuthStateManager &manager = container.stateManager();
     ChangeStream changes = container.fileWatcher().start(); // first, so that nothing is missed
@@ -103,14 +131,15 @@ QCoro::Task<int> Operations::watch(DependencyContainer &container, Format format
     while (isRead) {
         manager.setLastError(std::nullopt);
         co_await manager.reloadFromFiles();
-        isRead = printStatus(manager, format);
+        isRead = printStatus(manager, EnvironmentOverride::all(manager.configReader()), format);
         (void)exitCode(manager);
         if (!isRead) {
             break;
         }
         const bool changed = co_await changes.next();
         if (!changed && isRead) {
-            throw AppError::unknown(u"The configuration directory cannot be watched."_s);
+            throw AppError::unknown(QCoreApplication::translate(
+                "Operations", "The configuration directory cannot be watched."));
         }
     }
     co_return 0;
@@ -198,23 +227,12 @@ QCoro::Task<int> Operations::identityToken(DependencyContainer &container)
 
 QCoro::Task<int> Operations::locate(DependencyContainer &container)
 {
-    QPromise<QString> promise;
-    QFuture<QString> future = promise.future();
-    // The search can ask the user's shell, which may take its time: not on the main thread. Static,
-    // so that a search that Ctrl-C interrupts is stopped and its shell ended at exit.
-    static std::jthread search;
-    search = std::jthread(
-        [resolver = container.pathResolver()](std::stop_token stop, QPromise<QString> result) {
-            result.start();
-            try {
-                result.addResult(resolver->resolve(stop));
-            } catch (...) {
-                result.setException(std::current_exception());
-            }
-            result.finish();
-        },
-        std::move(promise));
-    const QString path = co_await future;
+    // The search can ask the user's shell, which may take its time: not on the main thread.
+    const auto search
+        = inBackground([resolver = container.pathResolver()](const std::stop_token &stop) {
+              return resolver->resolve(stop);
+          });
+    const QString path = co_await search;
     (void)printLine(path.toUtf8());
     co_return 0;
 }

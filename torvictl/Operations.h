@@ -5,9 +5,12 @@
 
 #include "GCloudModels/ImpersonationMode.h"
 #include "GCloudStateManager/DependencyContainer.h"
+#include "torvictl/BarLine.h"
 #include "torvictl/SettingChange.h"
 
 #include <qcoro/qcorotask.h>
+
+#include <variant>
 
 /// What torvictl's commands do, on the same objects as the desktop application.
 ///
@@ -21,9 +24,11 @@ enum class Format {
     json,
 };
 
-QCoro::Task<int> status(DependencyContainer &container, Format format);
+using StatusFormat = std::variant<Format, BarFormat>;
+
+QCoro::Task<int> status(DependencyContainer &container, StatusFormat format);
 /// Ends with 0 when the reader of standard output goes away.
-QCoro::Task<int> watch(DependencyContainer &container, Format format);
+QCoro::Task<int> watch(DependencyContainer &container, StatusFormat format);
 QCoro::Task<int> projects(DependencyContainer &container, Format format);
 
 QCoro::Task<int> switchProject(DependencyContainer &container, QString projectId);
@@ -37,6 +42,8 @@ QCoro::Task<int> impersonate(DependencyContainer &container, QString email, Impe
 QCoro::Task<int> clearImpersonation(DependencyContainer &container, ImpersonationMode mode);
 QCoro::Task<int> identityToken(DependencyContainer &container);
 QCoro::Task<int> locate(DependencyContainer &container);
+/// Throws when there is no gcloud, after saying what there is.
+QCoro::Task<int> doctor(DependencyContainer &container);
 
 QCoro::Task<int> serviceAccounts(DependencyContainer &container, QString projectId, Format format);
 QCoro::Task<int> savedAccounts(DependencyContainer &container, QString projectId, Format format);

@@ -3,6 +3,7 @@
 
 #include "torvictl/SettingChange.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <stdexcept>
@@ -22,7 +23,9 @@ namespace {
 SettingChange launchAtLogin(const QString &value)
 {
     if (value != u"true" && value != u"false") {
-        reject(u"launchAtLogin is true or false, not \"%1\""_s.arg(value));
+        reject(QCoreApplication::translate("SettingChange",
+                                           "launchAtLogin is true or false, not \"%1\"")
+                   .arg(value));
     }
     return [on = value == u"true"](SettingsStoring &store) { store.setLaunchAtLogin(on); };
 }
@@ -35,7 +38,9 @@ SettingChange menubarDisplayFormat(const QString &value)
         for (const MenubarDisplayFormat known : allCases<MenubarDisplayFormat>()) {
             formats.append(rawValue(known));
         }
-        reject(u"menubarDisplayFormat is one of %1, not \"%2\""_s.arg(formats.join(u", "), value));
+        reject(QCoreApplication::translate("SettingChange",
+                                           "menubarDisplayFormat is one of %1, not \"%2\"")
+                   .arg(formats.join(u", "), value));
     }
     return [format](SettingsStoring &store) { store.setMenubarDisplayFormat(*format); };
 }
@@ -52,7 +57,9 @@ SettingChange refreshIntervalMinutes(const QString &value)
     bool fits = false;
     const qint64 minutes = value.toLongLong(&fits);
     if (!fits || !wholeNumber.match(value).hasMatch()) {
-        reject(u"refreshIntervalMinutes is a whole number, not \"%1\""_s.arg(value));
+        reject(QCoreApplication::translate("SettingChange",
+                                           "refreshIntervalMinutes is a whole number, not \"%1\"")
+                   .arg(value));
     }
     return [minutes](SettingsStoring &store) { store.setRefreshIntervalMinutes(minutes); };
 }
@@ -73,8 +80,11 @@ SettingChange settingChange(const QString &name, const QString &value)
     if (name == u"refreshIntervalMinutes") {
         return refreshIntervalMinutes(value);
     }
-    reject(u"There is no setting \"%1\"; the settings are launchAtLogin, menubarDisplayFormat, "
-           "gcloudPathOverride and refreshIntervalMinutes"_s.arg(name));
+    reject(QCoreApplication::translate(
+               "SettingChange",
+               "There is no setting \"%1\"; the settings are launchAtLogin, menubarDisplayFormat, "
+               "gcloudPathOverride and refreshIntervalMinutes")
+               .arg(name));
 }
 
 } // namespace torvi

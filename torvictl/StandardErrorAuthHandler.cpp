@@ -5,13 +5,17 @@
 
 #include "torvictl/Terminal.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace torvi {
 
 void StandardErrorAuthHandler::openAuthURL(const QString &url)
 {
-    Terminal::printError(u"Sign in with your browser at:\n"_s + url);
+    Terminal::printError(
+        QCoreApplication::translate("StandardErrorAuthHandler", "Sign in with your browser at:\n%1")
+            .arg(url));
 }
 
 } // namespace torvi

@@ -5,9 +5,12 @@
 
 #include "GCloudModels/AppError.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -33,14 +36,21 @@ int writeAll(int descriptor, const QByteArray &bytes)
     return 0;
 }
 
+bool readerHasLeft()
+{
+    pollfd output{ STDOUT_FILENO, 0, 0 };
+    return poll(&output, 1, 0) == 1;
+}
+
 } // namespace
 
 bool Terminal::print(const QByteArray &bytes)
 {
     const int error = writeAll(STDOUT_FILENO, bytes);
     if (error != 0 && error != EPIPE) {
-        throw AppError::unknown(u"Could not write to standard output: "_s
-                                + QString::fromLocal8Bit(std::strerror(error)));
+        throw AppError::unknown(
+            QCoreApplication::translate("Terminal", "Could not write to standard output: %1")
+                .arg(QString::fromLocal8Bit(std::strerror(error))));
     }
     return error == 0;
 }
@@ -50,15 +60,19 @@ std::unique_ptr<QSocketNotifier> Terminal::notifyWhenReaderLeaves(std::function<
     struct stat output
     {
     };
-    if (fstat(STDOUT_FILENO, &output) != 0 || !S_ISFIFO(output.st_mode)) {
+    if (fstat(STDOUT_FILENO, &output) != 0
+        || !(S_ISFIFO(output.st_mode) || S_ISSOCK(output.st_mode))) {
         return nullptr;
     }
     // The writing end of a pipe is never readable: all that wakes the notifier is the broken pipe.
+    // A socket also wakes it when there is something to read; who sends that is given up watching.
     auto notifier = std::make_unique<QSocketNotifier>(STDOUT_FILENO, QSocketNotifier::Read);
     QObject::connect(notifier.get(), &QSocketNotifier::activated,
                      [pipe = notifier.get(), callback = std::move(callback)] {
                          pipe->setEnabled(false);
-                         callback();
+                         if (readerHasLeft()) {
+                             callback();
+                         }
                      });
     return notifier;
 }

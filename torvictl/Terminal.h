@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "torvictl/Rows.h"
+#include "GCloudStateManager/Rows.h"
 
 #include <QByteArray>
 #include <QSocketNotifier>
@@ -19,8 +19,9 @@ namespace torvi::Terminal {
 /// Errors: false when the reader has gone; throws AppError for any other failure, a full disk say.
 [[nodiscard]] bool print(const QByteArray &bytes);
 
-/// Calls back once, from the event loop, when standard output is a pipe and its reader has gone.
-/// Null when standard output is no pipe. The caller keeps the notifier as long as it wants to know.
+/// Calls back once, from the event loop, when standard output is a pipe or, as in tmux, a socket,
+/// and its reader has gone. Null when standard output is neither. The caller keeps the notifier as
+/// long as it wants to know.
 [[nodiscard]] std::unique_ptr<QSocketNotifier>
 notifyWhenReaderLeaves(std::function<void()> callback);
 

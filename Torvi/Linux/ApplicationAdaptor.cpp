@@ -41,7 +41,7 @@ void ApplicationAdaptor::ActivateAction(const QString &action, const QVariantLis
     }
     message.setDelayedReply(true); // in place of the empty reply of a success
     m_connection.send(
-        message.createErrorReply(QDBusError::InvalidArgs, u"There is no action "_s + action));
+        message.createErrorReply(QDBusError::InvalidArgs, tr("There is no action %1").arg(action)));
 }
 
 void ApplicationAdaptor::carryOut(CommandLine::Request request, const QVariantMap &platformData)

@@ -17,8 +17,9 @@ namespace torvi {
 
 QString MissingPanelHint::text()
 {
-    return u"No panel of this desktop shows status items. Torvi runs nevertheless: start it again, "
-           u"or run “torvi --toggle”, to open it."_s;
+    return tr(
+        "No panel of this desktop shows status items. Torvi runs nevertheless: start it again, "
+        "or run “torvi --toggle”, to open it.");
 }
 
 MissingPanelHint::MissingPanelHint(QDBusConnection connection,
@@ -72,7 +73,7 @@ void MissingPanelHint::notify()
                                                        service, u"Notify"_s);
     const uint replacesNothing = 0;
     const int standardTimeout = -1;
-    call << u"Torvi"_s << replacesNothing << u"com.veldra.Torvi"_s << u"Torvi is running"_s
+    call << u"Torvi"_s << replacesNothing << u"com.veldra.Torvi"_s << tr("Torvi is running")
          << text() << QStringList() << QVariantMap{ { u"desktop-entry"_s, u"com.veldra.Torvi"_s } }
          << standardTimeout;
     m_connection.asyncCall(call); // where nothing shows notifications, standard error has to do

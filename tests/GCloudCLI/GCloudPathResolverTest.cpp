@@ -103,6 +103,30 @@ TEST_F(GCloudPathResolverTest, ASettingThatIsNotExecutableIsIgnored)
     }
 }
 
+TEST_F(GCloudPathResolverTest, TellsByWhichStageItWasFound)
+{
+    using Stage = GCloudPathResolver::Stage;
+    const auto stage = [this]() -> std::optional<Stage> {
+        const auto found = GCloudPathResolver(customPath, places).find();
+        return found ? std::optional(found->stage) : std::nullopt;
+    };
+    EXPECT_EQ(stage(), std::nullopt);
+
+    shell("echo \"$gcloud\"");
+    EXPECT_EQ(stage(), Stage::loginShell);
+
+    (void)sdkIn(u"sdk"_s);
+    startUpFile(u".bashrc"_s,
+                "source '" + home.path().toUtf8() + "/sdk/google-cloud-sdk/path.bash.inc'\n");
+    EXPECT_EQ(stage(), Stage::startUpFile);
+
+    places.wellKnown = { installed(u"known"_s) };
+    EXPECT_EQ(stage(), Stage::wellKnownLocation);
+
+    customPath = installed(u"mine"_s);
+    EXPECT_EQ(stage(), Stage::setting);
+}
+
 TEST_F(GCloudPathResolverTest, TheTildeOfASettingIsNotExpanded)
 {
     customPath = u"~/mine"_s;

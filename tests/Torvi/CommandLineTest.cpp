@@ -32,7 +32,7 @@ protected:
 
     static std::variant<Options, int> asks(Request request, bool isTitleLive = false)
     {
-        return Options{ request, isTitleLive };
+        return Options{ request, isTitleLive, false };
     }
 };
 
@@ -49,6 +49,13 @@ TEST_F(TorviCommandLineTest, ATitleCanBeLiveWithEveryRequest)
 {
     EXPECT_EQ(parse({ "--live-title" }), asks(Request::start, true));
     EXPECT_EQ(parse({ "--toggle", "--live-title" }), asks(Request::toggle, true));
+}
+
+TEST_F(TorviCommandLineTest, TheDiagnosisIsInPlaceOfARequest)
+{
+    EXPECT_EQ(parse({ "--doctor" }),
+              (std::variant<Options, int>(Options{ Request::start, false, true })));
+    EXPECT_EQ(parse({ "--doctor", "--toggle" }), (std::variant<Options, int>(2)));
 }
 
 TEST_F(TorviCommandLineTest, TwoRequestsAreAUsageError)
@@ -76,7 +83,8 @@ TEST_F(TorviCommandLineTest, PrintsItsVersion)
 TEST_F(TorviCommandLineTest, HelpNamesEveryOption)
 {
     EXPECT_EQ(parse({ "--help" }), (std::variant<Options, int>(0)));
-    for (const char *option : { "--toggle", "--manager", "--quit", "--live-title", "--version" }) {
+    for (const char *option :
+         { "--toggle", "--manager", "--quit", "--doctor", "--live-title", "--version" }) {
         EXPECT_THAT(output, testing::HasSubstr(option));
     }
 }

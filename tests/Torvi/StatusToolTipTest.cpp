@@ -14,7 +14,7 @@ class StatusToolTipTest : public StateManagerFixture
 {
 protected:
     FakeStatusItem item;
-    StatusToolTip toolTip{ item, *manager };
+    StatusToolTip toolTip{ item, *manager, QProcessEnvironment() };
 };
 
 TEST_F(StatusToolTipTest, ShowsTheEmptyContextAtFirst)
@@ -37,6 +37,20 @@ TEST_F(StatusToolTipTest, FollowsTheWholeContextAtOnce)
     EXPECT_EQ(item.toolTipText,
               u"Project: labs\nAccount: ada@example.com\nConfiguration: default\n"
               "Impersonating: robot@labs.iam.gserviceaccount.com\nADC: Impersonated SA"_s);
+}
+
+TEST_F(StatusToolTipTest, EndsWithWhatTheEnvironmentOverridesAsLongAsItDoes)
+{
+    QProcessEnvironment environment;
+    environment.insert(u"CLOUDSDK_CORE_PROJECT"_s, u"labs"_s);
+    const StatusToolTip overridden(item, *manager, environment);
+    EXPECT_EQ(item.toolTipText.section(u'\n', -1),
+              u"CLOUDSDK_CORE_PROJECT makes gcloud use the project \"labs\"."_s);
+
+    reader->properties[u"default"_s].project = u"labs"_s;
+    manager->reloadFromFiles();
+
+    EXPECT_EQ(item.toolTipText.section(u'\n', -1), u"ADC: Not configured"_s);
 }
 
 TEST_F(StatusToolTipTest, NamesEachKindOfApplicationDefaultCredentials)

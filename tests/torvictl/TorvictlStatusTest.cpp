@@ -140,6 +140,61 @@ TEST_F(TorvictlStatusTest, PlainCLocaleChangesNothing)
     EXPECT_EQ(outcome.error, "");
 }
 
+TEST_F(TorvictlStatusTest, TellsWhatTheEnvironmentOverrides)
+{
+    writeConfig(u"configurations/config_default"_s, "[core]\nproject = p\n");
+    environment.insert(u"CLOUDSDK_ACTIVE_CONFIG_NAME"_s, u"default"_s);
+    environment.insert(u"CLOUDSDK_CORE_PROJECT"_s, u"other"_s);
+    environment.insert(u"GOOGLE_APPLICATION_CREDENTIALS"_s, u"/k.json"_s);
+
+    const Outcome text = run({ u"status"_s });
+    const Outcome json = run({ u"status"_s, u"--json"_s });
+
+    EXPECT_EQ(text.exitCode, 0);
+    EXPECT_TRUE(text.output.startsWith("Project  p\n")) << text.output.toStdString();
+    EXPECT_EQ(text.error,
+              "CLOUDSDK_CORE_PROJECT makes gcloud use the project \"other\".\n"
+              "GOOGLE_APPLICATION_CREDENTIALS makes code use the credentials in \"/k.json\".\n");
+    EXPECT_EQ(json.error, text.error);
+    EXPECT_TRUE(
+        json.output.endsWith(R"("lastError":null,"environmentOverrides":[)"
+                             R"({"variable":"CLOUDSDK_CORE_PROJECT","value":"other"},)"
+                             R"({"variable":"GOOGLE_APPLICATION_CREDENTIALS","value":"/k.json"}]})"
+                             "\n"))
+        << json.output.toStdString();
+}
+
+TEST_F(TorvictlStatusTest, SaysNothingOfAnEnvironmentThatAgreesWithTheFiles)
+{
+    writeConfig(u"configurations/config_default"_s, "[core]\nproject = p\n");
+    environment.insert(u"CLOUDSDK_CORE_PROJECT"_s, u"p"_s);
+
+    const Outcome outcome = run({ u"status"_s, u"--json"_s });
+
+    EXPECT_TRUE(outcome.output.endsWith("\"lastError\":null}\n")) << outcome.output.toStdString();
+    EXPECT_EQ(outcome.error, "");
+}
+
+TEST_F(TorvictlStatusTest, EachBarGetsItsOwnLine)
+{
+    writeConfig(u"configurations/config_default"_s,
+                "[core]\nproject = p&q\n[auth]\nimpersonate_service_account = s@p\n");
+    environment.insert(u"CLOUDSDK_CORE_PROJECT"_s, u"x"_s);
+    const auto output = [this](const QString &format) {
+        return run({ u"status"_s, u"--format"_s, format }).output;
+    };
+
+    EXPECT_EQ(output(u"plain"_s), "p&q as s\n");
+    EXPECT_EQ(output(u"polybar"_s), "%{F#ffa348}p&q as s%{F-}\n");
+    EXPECT_EQ(output(u"i3blocks"_s), "<span color='#ffa348'>p&amp;q as s</span>\n");
+    EXPECT_EQ(output(u"waybar"_s),
+              R"({"text":"p&amp;q as s","tooltip":"Project: p&amp;q\nAccount: None\n)"
+              R"(Impersonating: s@p\nADC: Not configured\n)"
+              R"(CLOUDSDK_CORE_PROJECT makes gcloud use the project &quot;x&quot;.",)"
+              R"("class":["impersonating","warning"]})"
+              "\n");
+}
+
 TEST_F(TorvictlStatusTest, FullDiskIsAnErrorNotASilentLoss)
 {
     QProcess process;

@@ -55,6 +55,14 @@ TEST_F(TorvictlUsageTest, ModeIsOneOfThree)
     expectUsageError({ u"clear-impersonation"_s, u"--mode"_s, u"BOTH"_s });
 }
 
+TEST_F(TorvictlUsageTest, FormatIsOneOfFourAndNotBesideJson)
+{
+    expectUsageError({ u"watch"_s, u"--format"_s, u"lemonbar"_s });
+    expectUsageError({ u"watch"_s, u"--format"_s });
+    expectUsageError({ u"status"_s, u"--format"_s, u"plain"_s, u"--json"_s });
+    expectUsageError({ u"projects"_s, u"--format"_s, u"plain"_s });
+}
+
 TEST_F(TorvictlUsageTest, UnknownSettingsAndWrongTypesAreUsageErrors)
 {
     expectUsageError({ u"settings"_s, u"set"_s, u"nonsense"_s, u"1"_s });

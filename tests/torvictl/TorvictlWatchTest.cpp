@@ -3,7 +3,10 @@
 
 #include "tests/torvictl/TorvictlProgram.h"
 
+#include <array>
 #include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -69,6 +72,24 @@ TEST_F(TorvictlWatchTest, NeverRunsGcloud)
     EXPECT_EQ(gcloudRuns(), "");
 }
 
+TEST_F(TorvictlWatchTest, ABarsLineLosesItsColourWhenTheImpersonationEnds)
+{
+    nextLine(*watch);
+    writeConfig(u"configurations/config_default"_s,
+                "[core]\nproject = p1\n[auth]\nimpersonate_service_account = s@p\n");
+    const auto bar = start({ u"watch"_s, u"--format"_s, u"polybar"_s });
+    EXPECT_EQ(nextLine(*bar), "%{F#ffa348}p1 as s%{F-}");
+
+    writeConfig(u"configurations/config_default"_s, "[core]\nproject = p1\n");
+
+    while (nextLine(*bar) != "p1") {
+        ASSERT_FALSE(HasFailure());
+    }
+    kill(static_cast<pid_t>(bar->processId()), SIGINT);
+    EXPECT_EQ(outcome(*bar).exitCode, 130);
+    endedBy(SIGINT);
+}
+
 TEST_F(TorvictlWatchTest, CtrlCExits130)
 {
     nextLine(*watch);
@@ -78,6 +99,7 @@ TEST_F(TorvictlWatchTest, CtrlCExits130)
 
 TEST_F(TorvictlWatchTest, EndsWithZeroWhenItsReaderGoesAwayAlsoWithoutAChange)
 {
+    nextLine(*watch); // from now on a signal finds its handler
     QProcess pipeline;
     pipeline.setProcessEnvironment(environment);
 
@@ -89,6 +111,26 @@ TEST_F(TorvictlWatchTest, EndsWithZeroWhenItsReaderGoesAwayAlsoWithoutAChange)
     EXPECT_EQ(pipeline.readAllStandardOutput(), "Project  p1\n");
     EXPECT_EQ(read(u"code"_s), "0\n");
     endedBy(SIGINT);
+}
+
+TEST_F(TorvictlWatchTest, EndsWithZeroAlsoWhenItsReaderWasASocket)
+{
+    nextLine(*watch);
+    endedBy(SIGINT);
+    std::array<int, 2> sockets{};
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, sockets.data()), 0);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setChildProcessModifier([&sockets] { dup2(sockets[1], STDOUT_FILENO); });
+    process.start(QStringLiteral(TORVI_TORVICTL), { u"watch"_s });
+    ASSERT_TRUE(process.waitForStarted());
+    close(sockets[1]);
+    std::array<char, 10> line{};
+    ASSERT_GT(::read(sockets[0], line.data(), line.size()), 0);
+
+    close(sockets[0]);
+
+    EXPECT_EQ(outcome(process).exitCode, 0);
 }
 
 TEST_F(TorvictlWatchTest, SeesADirectoryThatIsMadeLater)

@@ -12,12 +12,15 @@ _torvictl() {
         words='status watch projects switch-project switch-account activate-configuration
             create-configuration delete-configuration set-quota-project adc-login impersonate
             clear-impersonation identity-token service-accounts saved-accounts save-account
-            forget-account recents pin unpin settings locate --help --version'
+            forget-account recents pin unpin settings locate doctor --help --version'
     elif [[ $previous == --mode ]]; then
         words='adcOnly cliOnly both'
+    elif [[ $previous == --format ]]; then
+        words='waybar polybar i3blocks plain'
     else
         case $command in
-            status | watch | projects | recents) words+=' --json' ;;
+            status | watch) words+=' --json --format' ;;
+            projects | recents) words+=' --json' ;;
             service-accounts | saved-accounts) words+=" --json $(torvictl recents 2>/dev/null)" ;;
             switch-project | set-quota-project | pin | unpin)
                 words+=" $(torvictl recents 2>/dev/null)"

@@ -37,8 +37,10 @@ complete -c torvictl -n __fish_use_subcommand -a pin -d 'Pin a project'
 complete -c torvictl -n __fish_use_subcommand -a unpin -d 'Unpin a project'
 complete -c torvictl -n __fish_use_subcommand -a settings -d 'Show or change the settings'
 complete -c torvictl -n __fish_use_subcommand -a locate -d 'Print the path of gcloud'
+complete -c torvictl -n __fish_use_subcommand -a doctor -d 'Tell what Torvi found on this machine'
 
 complete -c torvictl -n '__fish_seen_subcommand_from status watch projects service-accounts saved-accounts recents settings' -l json -d 'Print JSON'
+complete -c torvictl -n '__fish_seen_subcommand_from status watch' -l format -x -a 'waybar polybar i3blocks plain' -d 'Print one line for a bar'
 complete -c torvictl -n '__fish_seen_subcommand_from impersonate clear-impersonation' -l mode -x -a 'adcOnly cliOnly both'
 complete -c torvictl -n '__fish_seen_subcommand_from save-account forget-account' -l project -x -a '(torvictl recents 2>/dev/null)'
 complete -c torvictl -n '__fish_seen_subcommand_from save-account' -l label -x

@@ -1,7 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "torvictl/Rows.h"
+#include "GCloudStateManager/Rows.h"
+
+#include "GCloudStateManager/ADCWords.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -15,20 +19,13 @@ constexpr QStringView kDim = u"\x1b[2m";
 constexpr QStringView kWarning = u"\x1b[33m"; // the terminal's yellow is what comes next to orange
 constexpr QStringView kReset = u"\x1b[0m";
 
-QString adcKind(ADCType type)
+QString coloured(const QString &text, QStringView colour, Colours colours)
 {
-    switch (type) {
-    case ADCType::userCredentials:
-        return u"User credentials"_s;
-    case ADCType::serviceAccountKey:
-        return u"Service account key"_s;
-    case ADCType::impersonatedServiceAccount:
-        return u"Impersonated SA"_s;
-    case ADCType::none:
-        return u"Not configured"_s;
-    }
-    Q_UNREACHABLE();
+    return colours == Colours::on && !text.isEmpty() ? colour.toString() + text + kReset.toString()
+                                                     : text;
 }
+
+} // namespace
 
 QString printable(QString text)
 {
@@ -38,24 +35,21 @@ QString printable(QString text)
     return text;
 }
 
-QString coloured(const QString &text, QStringView colour, Colours colours)
-{
-    return colours == Colours::on && !text.isEmpty() ? colour.toString() + text + kReset.toString()
-                                                     : text;
-}
-
-} // namespace
-
 QList<Row> contextRows(const AuthContext &context)
 {
     QList<Row> rows{
-        { u"Project"_s, context.activeProject ? context.activeProject->id : u"None"_s },
-        { u"Account"_s, context.activeAccount ? context.activeAccount->email : u"None"_s },
+        { QCoreApplication::translate("Rows", "Project"),
+          context.activeProject ? context.activeProject->id
+                                : QCoreApplication::translate("Rows", "None") },
+        { QCoreApplication::translate("Rows", "Account"),
+          context.activeAccount ? context.activeAccount->email
+                                : QCoreApplication::translate("Rows", "None") },
     };
     if (context.impersonatedServiceAccount) {
-        rows.append({ u"Impersonating"_s, context.impersonatedServiceAccount->email, true });
+        rows.append({ QCoreApplication::translate("Rows", "Impersonating"),
+                      context.impersonatedServiceAccount->email, true });
     }
-    rows.append({ u"ADC"_s, adcKind(context.adcState.type) });
+    rows.append({ QCoreApplication::translate("Rows", "ADC"), ADCWords::summary(context.adcState.type) });
     return rows;
 }
 

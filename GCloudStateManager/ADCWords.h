@@ -7,7 +7,7 @@
 
 #include <QString>
 
-/// Words of the views that are also shown where no view is, so without anything of QML.
+/// Words of the views that are also shown where no view is: in the tool tip and in a terminal.
 namespace torvi::ADCWords {
 
 /// The kind of application default credentials, in the words of the active-context card.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-#include "torvictl/Rows.h"
+#include "GCloudStateManager/Rows.h"
 
 #include <gtest/gtest.h>
 

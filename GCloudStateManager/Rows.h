@@ -28,8 +28,10 @@ enum class Colours {
 /// The rows of the active-context card: what is active, and the impersonation if there is one.
 [[nodiscard]] QList<Row> contextRows(const AuthContext &context);
 
-/// The rows as lines, the values in one column. Control characters are shown as U+FFFD, so that a
-/// value from a file cannot drive the terminal. An empty value leaves no trailing blanks.
+/// Control characters become U+FFFD, so that a value from a file cannot drive the terminal.
+[[nodiscard]] QString printable(QString text);
+
+/// The rows as printable lines, the values in one column. An empty value leaves no trailing blanks.
 [[nodiscard]] QString aligned(const QList<Row> &rows, Colours colours = Colours::off);
 
 } // namespace torvi
