@@ -166,6 +166,20 @@ Item {
             compare(picker.currentIndex, 0)
         }
 
+        function test_theModesAreReadable() {
+            show()
+            const segments = everyOne(find("modePicker"), item => item instanceof Segment)
+
+            compare(segments.length, 3)
+            for (const segment of segments)
+                verify(!segment.contentItem.truncated)
+        }
+
+        function everyOne(item: Item, isWanted: var): var {
+            return Array.from(item.children).reduce((found, child) => found.concat(
+                isWanted(child) ? [child] : everyOne(child, isWanted)), [])
+        }
+
         function test_measures() {
             showFound(["b@x"])
 
