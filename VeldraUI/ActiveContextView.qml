@@ -86,9 +86,12 @@ Rectangle {
 
         Row {
             objectName: "copyRow"
+            height: copyButton.height // also while the indicator shows, which is higher
             spacing: 8
 
             PlainButton {
+                id: copyButton
+
                 objectName: "copyButton"
                 anchors.verticalCenter: parent.verticalCenter
                 enabled: !root.isCopyingToken && root.stateManager.hasActiveAccount

@@ -71,6 +71,7 @@ ActionRow {
                 width: parent.width
                 visible: root.hasProject
                 text: qsTr("Project: %1").arg(root.projectId)
+                revealed: root.visualFocus
             }
 
             PropertyLine {
@@ -80,6 +81,7 @@ ActionRow {
                 width: parent.width
                 visible: root.hasAccount
                 text: qsTr("Account: %1").arg(root.account)
+                revealed: root.visualFocus
             }
 
             PropertyLine {
@@ -89,6 +91,7 @@ ActionRow {
                 width: parent.width
                 visible: root.hasRegion
                 text: qsTr("Region: %1").arg(root.region)
+                revealed: root.visualFocus
             }
         }
 
@@ -124,7 +127,6 @@ ActionRow {
         elide: Text.ElideMiddle
         textStyle: Typography.caption
         color: Theme.colors.secondary
-        revealed: root.visualFocus
         Accessible.ignored: true
     }
 }

@@ -24,7 +24,7 @@ Item {
         x: 12
         y: 10
         width: root.width - 24
-        height: Math.max(managerButton.height, progress.visible ? progress.height : 0)
+        height: managerButton.height // also while the indicator shows, which is higher
 
         PlainButton {
             id: managerButton

@@ -84,7 +84,7 @@ RowButton {
     Loader {
         id: toolTip
 
-        active: (root.hovered || root.visualFocus) && root.hint !== ""
+        active: (root.hovered || root.visualFocus) && root.hint !== "" && !(root.menu && root.menu.visible)
 
         sourceComponent: ToolTip {
             objectName: "toolTip"

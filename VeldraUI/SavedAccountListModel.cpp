@@ -7,42 +7,6 @@
 
 namespace torvi {
 
-AuthState *SavedAccountListModel::stateManager() const
-{
-    return m_stateManager;
-}
-
-void SavedAccountListModel::setStateManager(AuthState *stateManager)
-{
-    if (m_stateManager == stateManager) {
-        return;
-    }
-    if (m_stateManager) {
-        m_stateManager->manager().serviceAccountStore().disconnect(this);
-    }
-    m_stateManager = stateManager;
-    if (stateManager) {
-        connect(&stateManager->manager().serviceAccountStore(), &ServiceAccountStoring::changed,
-                this, &SavedAccountListModel::update);
-    }
-    Q_EMIT stateManagerChanged();
-    update();
-}
-
-QString SavedAccountListModel::projectId() const
-{
-    return m_projectId;
-}
-
-void SavedAccountListModel::setProjectId(const QString &projectId)
-{
-    if (m_projectId != projectId) {
-        m_projectId = projectId;
-        Q_EMIT projectIdChanged();
-        update();
-    }
-}
-
 int SavedAccountListModel::count() const
 {
     return rowCount();
@@ -50,7 +14,7 @@ int SavedAccountListModel::count() const
 
 QVariant SavedAccountListModel::data(const QModelIndex &index, int role) const
 {
-    const ServiceAccount &account = rowAt(index);
+    const ServiceAccount &account = rowAt(index).account;
     switch (role) {
     case EmailRole:
         return account.email;
@@ -68,12 +32,14 @@ QHash<int, QByteArray> SavedAccountListModel::roleNames() const
 
 void SavedAccountListModel::update()
 {
-    const QList<ServiceAccount> accounts = m_stateManager
-        ? m_stateManager->manager().serviceAccountStore().serviceAccounts(m_projectId)
-        : QList<ServiceAccount>();
+    QList<ServiceAccountRow> next;
+    for (const ServiceAccount &account : savedAccounts()) {
+        next.push_back({ account, true });
+    }
     const int before = count();
-    change({ accounts.begin(), accounts.end() },
-           nextRowsByIdentity(rows(), accounts, &ServiceAccount::email));
+    const std::vector<int> nextRows = nextRowsByIdentity(
+        rows(), next, [](const ServiceAccountRow &row) { return row.account.email; });
+    change({ next.begin(), next.end() }, nextRows);
     if (count() != before) {
         Q_EMIT countChanged();
     }

@@ -21,6 +21,13 @@ Rectangle {
     radius: 6
     color: Theme.colors.quaternaryFill
 
+    FocusRing {
+        objectName: "focusRing"
+        shown: field.focusedByKeyboard
+        gap: 0
+        radius: 8
+    }
+
     Item {
         id: row
 

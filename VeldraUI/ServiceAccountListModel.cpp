@@ -40,42 +40,6 @@ QString identityOf(const ServiceAccountRow &row)
 
 } // namespace
 
-AuthState *ServiceAccountListModel::stateManager() const
-{
-    return m_stateManager;
-}
-
-void ServiceAccountListModel::setStateManager(AuthState *stateManager)
-{
-    if (m_stateManager == stateManager) {
-        return;
-    }
-    if (m_stateManager) {
-        m_stateManager->manager().serviceAccountStore().disconnect(this);
-    }
-    m_stateManager = stateManager;
-    if (stateManager) {
-        connect(&stateManager->manager().serviceAccountStore(), &ServiceAccountStoring::changed,
-                this, &ServiceAccountListModel::update);
-    }
-    Q_EMIT stateManagerChanged();
-    update();
-}
-
-QString ServiceAccountListModel::projectId() const
-{
-    return m_projectId;
-}
-
-void ServiceAccountListModel::setProjectId(const QString &projectId)
-{
-    if (m_projectId != projectId) {
-        m_projectId = projectId;
-        Q_EMIT projectIdChanged();
-        update();
-    }
-}
-
 int ServiceAccountListModel::savedCount() const
 {
     return m_savedCount;
@@ -126,7 +90,7 @@ void ServiceAccountListModel::discover(const QString &projectId)
 
 QCoro::Task<> ServiceAccountListModel::discoverNow(QString projectId)
 {
-    if (!m_stateManager) {
+    if (!stateManager()) {
         co_return;
     }
     const QPointer self(this);
@@ -134,7 +98,7 @@ QCoro::Task<> ServiceAccountListModel::discoverNow(QString projectId)
     m_discoveryFailed = false;
     Q_EMIT changed();
     QList<ServiceAccount> found
-        = co_await m_stateManager->manager().fetchServiceAccounts(std::move(projectId));
+        = co_await stateManager()->manager().fetchServiceAccounts(std::move(projectId));
     if (!self) {
         co_return;
     }
@@ -149,33 +113,31 @@ void ServiceAccountListModel::save(const QString &email)
     const auto account = std::find_if(
         m_discovered.cbegin(), m_discovered.cend(),
         [&email](const ServiceAccount &candidate) { return candidate.email == email; });
-    if (m_stateManager && account != m_discovered.cend()) {
-        m_stateManager->manager().serviceAccountStore().addServiceAccount(
+    if (stateManager() && account != m_discovered.cend()) {
+        stateManager()->manager().serviceAccountStore().addServiceAccount(
             ServiceAccount(*account)); // the store tells of it before it returns
     }
 }
 
 void ServiceAccountListModel::add(const QString &email, const QString &displayName)
 {
-    if (m_stateManager) {
-        m_stateManager->manager().serviceAccountStore().addServiceAccount(
-            { email, m_projectId,
+    if (stateManager()) {
+        stateManager()->manager().serviceAccountStore().addServiceAccount(
+            { email, projectId(),
               displayName.isEmpty() ? std::nullopt : std::optional(displayName) });
     }
 }
 
 void ServiceAccountListModel::remove(const QString &email)
 {
-    if (m_stateManager) {
-        m_stateManager->manager().serviceAccountStore().removeServiceAccount(email, m_projectId);
+    if (stateManager()) {
+        stateManager()->manager().serviceAccountStore().removeServiceAccount(email, projectId());
     }
 }
 
 void ServiceAccountListModel::update()
 {
-    const QList<ServiceAccount> saved = m_stateManager
-        ? m_stateManager->manager().serviceAccountStore().serviceAccounts(m_projectId)
-        : QList<ServiceAccount>();
+    const QList<ServiceAccount> saved = savedAccounts();
     const QList<ServiceAccountRow> next = rowsOf(saved, m_discovered);
     m_savedCount = static_cast<int>(saved.size());
     change({ next.begin(), next.end() }, nextRowsByIdentity(rows(), next, &identityOf));

@@ -3,32 +3,16 @@
 
 #pragma once
 
-#include "GCloudModels/ServiceAccount.h"
-#include "VeldraUI/AuthState.h"
-#include "VeldraUI/RowModel.h"
-
-#include <QtQml/qqmlregistration.h>
+#include "VeldraUI/ProjectAccountsModel.h"
 
 namespace torvi {
 
-/// A service account as the manager window lists it.
-struct ServiceAccountRow
-{
-    ServiceAccount account;
-    bool isSaved = false;
-
-    bool operator==(const ServiceAccountRow &) const = default;
-};
-
 /// The service accounts of one project: first those that are saved for it, then those of the last
 /// discovery. One that is both is listed as saved only.
-class ServiceAccountListModel : public RowModel<ServiceAccountRow>
+class ServiceAccountListModel : public ProjectAccountsModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(torvi::AuthState *stateManager READ stateManager WRITE setStateManager NOTIFY
-                   stateManagerChanged REQUIRED)
-    Q_PROPERTY(QString projectId READ projectId WRITE setProjectId NOTIFY projectIdChanged)
     Q_PROPERTY(int savedCount READ savedCount NOTIFY changed)
     Q_PROPERTY(int discoveredCount READ discoveredCount NOTIFY changed)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY changed)
@@ -41,13 +25,8 @@ public:
         IsSavedRole,
     };
 
-    using RowModel::RowModel;
+    using ProjectAccountsModel::ProjectAccountsModel;
 
-    [[nodiscard]] AuthState *stateManager() const;
-    /// Must outlive this, or be null.
-    void setStateManager(AuthState *stateManager);
-    [[nodiscard]] QString projectId() const;
-    void setProjectId(const QString &projectId);
     [[nodiscard]] int savedCount() const;
     /// Of those listed, that is without the ones that are saved.
     [[nodiscard]] int discoveredCount() const;
@@ -69,16 +48,12 @@ public:
     Q_INVOKABLE void remove(const QString &email);
 
 Q_SIGNALS:
-    void stateManagerChanged();
-    void projectIdChanged();
     void changed();
 
 private:
     QCoro::Task<> discoverNow(QString projectId);
-    void update();
+    void update() override;
 
-    QPointer<AuthState> m_stateManager;
-    QString m_projectId;
     QList<ServiceAccount> m_discovered;
     int m_savedCount = 0;
     bool m_isLoading = false;

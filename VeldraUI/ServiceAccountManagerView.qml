@@ -128,6 +128,7 @@ Item {
                 required property string section
 
                 text: section === "true" ? qsTr("Saved") : qsTr("Discovered from GCP")
+                told: false
             }
 
             delegate: ServiceAccountRow {

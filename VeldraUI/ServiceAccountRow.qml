@@ -18,7 +18,7 @@ ActionRow {
     signal remove()
 
     text: email
-    details: displayName
+    details: (displayName === "" ? "" : displayName + ", ") + (isSaved ? qsTr("saved") : qsTr("discovered"))
 
     contentItem: Item {
         implicitHeight: Math.max(texts.height, buttons.height)

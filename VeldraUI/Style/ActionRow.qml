@@ -7,12 +7,11 @@ import QtQuick.Templates as T
 import VeldraUI.Style
 
 // A row of a ListArea that is no button itself but may hold some: RowAction items in its contentItem.
-// `text` and `details` are read by assistive technology.
-T.Control {
+// `text` and `details` are read by assistive technology, to which a plain control would tell no role.
+T.ItemDelegate {
     id: root
 
     required property int index
-    property string text: ""
     property string details: ""
 
     readonly property bool isCurrent: ListView.isCurrentItem
@@ -55,8 +54,5 @@ T.Control {
     Accessible.description: (details === "" ? "" : details + ", ")
                             + qsTr("%1 of %2").arg(index + 1).arg(area ? area.count : 0)
     Accessible.focusable: true
-
-    TapHandler {
-        onTapped: root.forceActiveFocus(Qt.MouseFocusReason)
-    }
+    Accessible.onPressAction: area.focusRow(index)
 }

@@ -12,6 +12,8 @@ StyledText {
     property bool revealed: false
     readonly property bool toolTipShown: toolTip.visibleNow
 
+    // Rows stand in one line, whatever their script.
+    horizontalAlignment: Text.AlignLeft
     elide: Text.ElideRight
     maximumLineCount: 1
     wrapMode: Text.NoWrap

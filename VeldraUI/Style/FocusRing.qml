@@ -6,16 +6,18 @@ import QtQuick.Templates as T
 
 import VeldraUI.Style
 
-// The ring around the control that the keyboard is on; a control that was clicked has none.
+// The ring around the control that the keyboard is on, its `target`, or while it is `shown`; a
+// control that was clicked has none.
 Rectangle {
     id: root
 
-    required property T.Control target
+    property T.Control target: null
+    property bool shown: target !== null && target.visualFocus
     property real gap: 1
 
     anchors.fill: parent
     anchors.margins: -gap - border.width
-    visible: target.visualFocus
+    visible: shown
 
     color: "transparent"
     radius: 6 + gap

@@ -13,7 +13,8 @@ Item {
     readonly property real inset: 12
 
     width: parent ? parent.width : 0
-    implicitHeight: Math.max(holder.childrenRect.height, labelText.visible ? labelText.implicitHeight : 0) + 18
+    // As high with a toggle as with a picker.
+    implicitHeight: Math.max(26, holder.childrenRect.height, labelText.implicitHeight) + 18
 
     Divider {
         x: root.inset

@@ -23,6 +23,7 @@ Column {
         visible: text !== ""
         text: root.title
         textStyle: Typography.headline
+        Accessible.ignored: true // the section has its name
     }
 
     Rectangle {

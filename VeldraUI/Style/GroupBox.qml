@@ -26,6 +26,7 @@ T.GroupBox {
         textStyle: Typography.callout
         weight: Font.DemiBold
         color: Theme.colors.secondary
+        Accessible.ignored: true // the box has its name
     }
 
     background: Rectangle {

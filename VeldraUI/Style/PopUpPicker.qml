@@ -18,7 +18,7 @@ T.ComboBox {
     property string label: ""
     property bool small: false
     property bool measured: true
-    readonly property real widestText: measured && model ? widest(count) : 0
+    readonly property real widestText: measured && model ? widest(count, (contentItem as Text).font) : 0
     // An entry has a check mark before its text.
     property real menuWidth: Math.max(120, widestText + 40)
 
@@ -98,11 +98,10 @@ T.ComboBox {
 
     FontMetrics {
         id: metrics
-
-        font: root.font
     }
 
-    function widest(entries: int): real {
+    function widest(entries: int, font: font): real {
+        metrics.font = font
         let width = 0
         for (let index = 0; index < entries; ++index)
             width = Math.max(width, metrics.advanceWidth(textAt(index)))

@@ -44,14 +44,10 @@ T.TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
 
-    Rectangle {
-        anchors.fill: parent
-        anchors.margins: -2
-        visible: root.focusedByKeyboard
+    FocusRing {
+        shown: root.framed && root.focusedByKeyboard
+        gap: 0
         radius: 7
-        color: "transparent"
-        border.width: 2
-        border.color: Theme.colors.focusRing
     }
 
     Text {

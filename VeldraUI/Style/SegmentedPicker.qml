@@ -46,15 +46,19 @@ Item {
     Row {
         id: segments
 
-        readonly property real widest: {
-            let width = 0
+        readonly property list<real> widths: {
+            const widths = []
             for (let i = 0; i < repeater.count; ++i)
-                width = Math.max(width, Math.ceil(repeater.itemAt(i).implicitWidth))
-            return width
+                widths.push(Math.ceil(repeater.itemAt(i).implicitWidth))
+            return widths
         }
+        readonly property real widest: Math.max(0, ...widths)
         readonly property real offset: labelText.visible ? Math.ceil(labelText.implicitWidth) + 8 : 0
 
         readonly property real share: width / root.model.length
+        readonly property bool cramped: share < widest
+        // What each has beside its own width then.
+        readonly property real spare: share - widths.reduce((sum, width) => sum + width, 0) / root.model.length
 
         x: offset
         width: root.width - offset
@@ -68,7 +72,7 @@ Item {
                 required property string modelData
                 required property int index
 
-                width: Math.round((index + 1) * segments.share) - Math.round(index * segments.share)
+                width: Math.round(segments.startOf(index + 1)) - Math.round(segments.startOf(index))
                 small: root.small
                 text: modelData
                 checked: index === root.currentIndex
@@ -77,6 +81,12 @@ Item {
                 onClicked: root.activated(index)
                 onStepped: by => root.step(index, by)
             }
+        }
+
+        // All are alike in width, unless one of them would not have its own then.
+        function startOf(place: int): real {
+            return cramped ? widths.slice(0, place).reduce((start, width) => start + width + spare, 0)
+                           : place * share
         }
     }
 

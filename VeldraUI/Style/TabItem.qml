@@ -46,7 +46,7 @@ T.TabButton {
     Accessible.role: Accessible.PageTab
     Accessible.name: text
     Accessible.selected: checked
-    Accessible.onPressAction: if (enabled) toggle()
+    Accessible.onPressAction: if (enabled) checked = true
 
     function choose(index: int) {
         const bar = T.TabBar.tabBar

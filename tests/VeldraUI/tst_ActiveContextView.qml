@@ -195,6 +195,19 @@ Item {
             world.finish("token")
         }
 
+        function test_theCardKeepsItsHeightWhileATokenComes() {
+            world.signIn("ada@example.com")
+            world.expect("printIdentityToken")
+            show()
+            const before = shown.implicitHeight
+            press("copyButton")
+
+            tryVerify(() => find("progress").visible)
+            tryCompare(shown, "implicitHeight", before)
+            world.finish("token")
+            compare(shown.implicitHeight, before)
+        }
+
         function test_aFailedCopyIsTheLastErrorAndFreesTheButtonAtOnce() {
             world.signIn("ada@example.com")
             world.expect("printIdentityToken")

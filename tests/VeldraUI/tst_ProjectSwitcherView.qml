@@ -399,6 +399,19 @@ Item {
             tryVerify(() => find("rows/a").toolTipShown)
         }
 
+        function test_noToolTipStandsBesideAMenu() {
+            world.list(["a"])
+            show()
+            mouseMove(find("rows/a"))
+            tryVerify(() => find("rows/a").toolTipShown)
+            mouseClick(find("rows/a"), undefined, undefined, Qt.RightButton)
+            tryVerify(() => menu().opened)
+
+            verify(!find("rows/a").toolTipShown)
+            menu().close()
+            tryVerify(() => !menu().visible)
+        }
+
         function test_assistiveTechnologyReadsRowsWithTheirPlace() {
             world.pinned = ["b"]
             world.configure({ project: "b" })

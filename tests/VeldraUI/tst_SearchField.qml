@@ -120,6 +120,16 @@ Item {
             compare(search.height, before)
         }
 
+        function test_theKeyboardsRingIsAroundItAll() {
+            const ring = findChild(search, "focusRing")
+            verify(!ring.visible)
+            field.focus = false
+            field.forceActiveFocus(Qt.TabFocusReason)
+            verify(ring.visible)
+            compare(ring.mapToItem(search, 0, 0), Qt.point(-2, -2))
+            compare([ring.width, ring.height], [search.width + 4, search.height + 4])
+        }
+
         function test_looksAsItShould() {
             window.query = "web"
             compare(symbol.name, "magnifyingglass")

@@ -166,6 +166,20 @@ Item {
             compare(picker.currentIndex, 0)
         }
 
+        function test_theModesAreReadable() {
+            show()
+            const segments = everyOne(find("modePicker"), item => item instanceof Segment)
+
+            compare(segments.length, 3)
+            for (const segment of segments)
+                verify(!segment.contentItem.truncated)
+        }
+
+        function everyOne(item: Item, isWanted: var): var {
+            return Array.from(item.children).reduce((found, child) => found.concat(
+                isWanted(child) ? [child] : everyOne(child, isWanted)), [])
+        }
+
         function test_measures() {
             showFound(["b@x"])
 
@@ -539,7 +553,8 @@ Item {
             compare(find("list").Accessible.name, "Service Accounts")
             compare(find("s@x").Accessible.role, Accessible.ListItem)
             compare(find("s@x").Accessible.name, "s@x")
-            compare(find("s@x").Accessible.description, "Deployer, 1 of 2")
+            compare(find("s@x").Accessible.description, "Deployer, saved, 1 of 2")
+            compare(find("b@x").Accessible.description, "Name of b@x, discovered, 2 of 2")
             compare(find("s@x/removeButton").Accessible.name, "Remove")
             compare(find("s@x/removeButton").Accessible.description, "s@x")
             compare(find("b@x/saveButton").Accessible.name, "Save for quick access")

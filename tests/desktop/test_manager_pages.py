@@ -2,37 +2,24 @@
 # SPDX-License-Identifier: MIT
 """The manager window's pages, used with keyboard and mouse; gcloud is asked what happened."""
 
-import json
 import os
 import re
-import subprocess
-import sys
 import unittest
 
-from desktop import PATIENCE, DesktopTestCase, wait_for
-
-sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))),
-                                "standin"))
-
-import demo  # noqa: E402  (its folder has just been added)
+from demo_world import DemoTestCase, demo
+from desktop import wait_for
 
 PROJECT = "larkspur-checkout-prod"
 HEIGHT = 450
 BOTTOM_BAR = HEIGHT - 25
 
 
-class ManagerPagesTest(DesktopTestCase):
+class ManagerPagesTest(DemoTestCase):
     def setUp(self):
         super().setUp()
-        self.world = self.enterContext(demo.DemoWorld(pace="0"))
-        self.environment = {**self.world.environment(), "TORVI_DEMO_SIGN_IN_SECONDS": "0"}
-        self.desktop.world = self.environment
-        torvi = self.desktop.launch_torvi()
-        wait_for(lambda: PROJECT in self.desktop.item_property(torvi, "ToolTip"), "the context")
-        self.assertEqual(self.desktop.ask_torvi("--manager"), 0)
-        self.window = wait_for(self.desktop.manager, "the manager window")
-        wait_for(lambda: self.desktop.run("xdotool", "getactivewindow").strip() == self.window,
-                 "the window in front")
+        wait_for(lambda: PROJECT in self.desktop.item_property(self.torvi, "ToolTip"),
+                 "the context")
+        self.manager = self.open_manager()
 
     # Hands
 
@@ -40,58 +27,33 @@ class ManagerPagesTest(DesktopTestCase):
         for name in names:
             self.desktop.key(name)
 
-    def type(self, text):
-        self.desktop.run("xdotool", "type", "--delay", "1", text, check=True)
-
     def click(self, x, y):
         """At a place of the window."""
-        printed = self.desktop.run("xwininfo", "-id", self.window, check=True)
+        printed = self.desktop.run("xwininfo", "-id", self.manager.window, check=True)
         left, top = (int(re.search(rf"Absolute upper-left {axis}: +(-?\d+)", printed)[1])
                      for axis in "XY")
         self.desktop.click((left + x, top + y))
 
     # What happened
 
-    def gcloud(self, *arguments):
-        done = subprocess.run([self.world.gcloud, *arguments, "--format=json"],
-                              env=self.environment, stdin=subprocess.DEVNULL, capture_output=True,
-                              text=True, timeout=PATIENCE, check=True)
-        return json.loads(done.stdout)
-
-    def configurations(self):
-        """Whether it is active, by the name of each configuration."""
-        return {entry["name"]: entry["is_active"]
-                for entry in self.gcloud("config", "configurations", "list")}
-
-    def credentials(self):
-        """The application default credentials; empty while they are being written."""
-        path = os.path.join(self.world.config, "application_default_credentials.json")
-        try:
-            with open(path, encoding="utf-8") as file:
-                return json.load(file)
-        except (FileNotFoundError, json.JSONDecodeError):
-            return {}
-
-    def preferences(self):
-        path = os.path.join(self.world.home, ".config", "torvi", "preferences.ini")
-        with open(path, encoding="utf-8") as file:
-            return file.read()
+    def wait_for_setting(self, name, value):
+        wait_for(lambda: self.preferences().get(f"com.veldra.{name}") == value, name)
 
     # Configurations
 
     def test_the_keyboard_creates_a_configuration(self):
         self.keys("ctrl+1", "Tab", "space")
-        self.type("fresh")
+        self.manager.type("fresh")
         self.keys("Return")
 
         wait_for(lambda: "fresh" in self.configurations(), "the configuration")
 
     def test_the_mouse_opens_the_sheet_and_escape_cancels_it(self):
         self.click(60, BOTTOM_BAR)
-        self.type("never")
+        self.manager.type("never")
         self.keys("Escape")
         self.click(60, BOTTOM_BAR)
-        self.type("fresh")
+        self.manager.type("fresh")
         self.keys("Return")
 
         wait_for(lambda: "fresh" in self.configurations(), "the configuration")
@@ -113,33 +75,37 @@ class ManagerPagesTest(DesktopTestCase):
 
     # Service accounts
 
+    def accounts(self):
+        """The saved ones, as they are stored."""
+        return self.preferences()["com.veldra.serviceaccounts"]
+
     def test_an_account_is_added_with_its_label(self):
         self.keys("ctrl+2")
         self.click(100, BOTTOM_BAR)
-        self.type("robot@example.com")
+        self.manager.type("robot@example.com")
         self.keys("Tab")
-        self.type("Robot")
+        self.manager.type("Robot")
         self.keys("Return")
 
-        wait_for(lambda: r"robot@example.com" in self.preferences(), "the account")
-        self.assertRegex(self.preferences(), r'displayName\W+Robot\W')
+        wait_for(lambda: "robot@example.com" in self.accounts(), "the account")
+        self.assertRegex(self.accounts(), r'displayName\W+Robot\W')
 
     def test_a_saved_account_is_removed(self):
-        self.assertIn(demo.DEPLOYER, self.preferences())
+        self.assertIn(demo.DEPLOYER, self.accounts())
         self.keys("ctrl+2")
 
         def remove():
             # While the accounts are being listed, this leads to the chosen mode and chooses it.
             self.click(100, BOTTOM_BAR)
             self.keys("shift+Tab", "space")
-            return demo.DEPLOYER not in self.preferences()
+            return demo.DEPLOYER not in self.accounts()
         wait_for(remove, "the account to be gone")
 
     # Default credentials
 
     def test_a_quota_project_is_typed_and_then_the_active_one_is_used(self):
         self.keys("ctrl+3", "Tab", "Tab")
-        self.type("larkspur-cafe-fr")
+        self.manager.type("larkspur-cafe-fr")
         self.keys("Return")
         wait_for(lambda: self.credentials().get("quota_project_id") == "larkspur-cafe-fr",
                  "the typed quota project")
@@ -159,15 +125,15 @@ class ManagerPagesTest(DesktopTestCase):
 
     def test_settings_are_stored_at_once(self):
         self.keys("ctrl+4", "space")
-        wait_for(lambda: "com.veldra.launchAtLogin=true" in self.preferences(), "the setting")
+        self.wait_for_setting("launchAtLogin", "true")
         self.keys("Tab", "Tab", "Up")
 
-        wait_for(lambda: "com.veldra.refreshInterval=6" in self.preferences(), "the interval")
+        self.wait_for_setting("refreshInterval", "6")
 
     def test_control_tab_goes_through_the_pages(self):
         self.keys("ctrl+Tab", "ctrl+Tab", "ctrl+Tab", "ctrl+shift+Tab", "ctrl+Tab", "space")
 
-        wait_for(lambda: "com.veldra.launchAtLogin=true" in self.preferences(), "the setting")
+        self.wait_for_setting("launchAtLogin", "true")
 
 
 if __name__ == "__main__":

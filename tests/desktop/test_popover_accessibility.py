@@ -4,8 +4,9 @@
 
 import unittest
 
-from demo_world import BUTTON, FIELD, LABEL, SEGMENT, DemoWorldTestCase, demo
+from demo_world import DemoWorldTestCase, demo
 from desktop import wait_for
+from open_window import BUTTON, FIELD, LABEL, SEGMENT
 
 CHECKOUT = "larkspur-checkout-prod"
 CAFE = "larkspur-cafe-fr"

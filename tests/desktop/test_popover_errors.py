@@ -5,8 +5,10 @@
 import os
 import unittest
 
-from demo_world import BUTTON, VIEWPORT, DemoWorldTestCase
+from demo_world import DemoWorldTestCase
 from desktop import wait_for
+from open_popover import VIEWPORT
+from open_window import BUTTON
 
 CAFE = "larkspur-cafe-fr"
 ALERT = "alert message"

@@ -4,8 +4,9 @@
 
 import unittest
 
-from demo_world import FIELD, LABEL, MENU_ENTRY, SEGMENT, DemoWorldTestCase, demo
+from demo_world import DemoWorldTestCase, demo
 from desktop import wait_for
+from open_window import FIELD, LABEL, MENU_ENTRY, SEGMENT
 
 CHECKOUT = "larkspur-checkout-prod"
 CAFE = "larkspur-cafe-fr"

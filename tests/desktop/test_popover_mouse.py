@@ -6,8 +6,9 @@ import json
 import re
 import unittest
 
-from demo_world import (BUTTON, FIELD, LABEL, MENU_ENTRY, SEGMENT, DemoWorldTestCase, demo)
+from demo_world import DemoWorldTestCase, demo
 from desktop import wait_for
+from open_window import BUTTON, FIELD, LABEL, MENU_ENTRY, SEGMENT
 
 CHECKOUT = "larkspur-checkout-prod"
 CAFE = "larkspur-cafe-fr"

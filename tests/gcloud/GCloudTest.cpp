@@ -34,13 +34,10 @@ QJsonDocument decoded(const Ended &ended)
 /// The real gcloud, if the environment is still that of the test in `home`. Keeps a record.
 QByteArray guardedGCloud(const QString &home)
 {
-    return uR"(echo "$*" >>"%1/runs"
-case "$HOME:$CLOUDSDK_CONFIG:$HTTPS_PROXY:$REQUESTS_CA_BUNDLE" in
-"%1:%1/"*:http://127.0.0.1:*:/*) exec "%2" "$@" ;;
-esac
-echo "gcloud was started without the environment of the test" >&2
-exit 70)"_s.arg(home, QStandardPaths::findExecutable(u"gcloud"_s))
-        .toUtf8();
+    QFile script(QStringLiteral(TORVI_GCLOUD_TESTS "/guarded_gcloud.sh"));
+    EXPECT_TRUE(script.open(QIODevice::ReadOnly));
+    const QString gcloud = QStandardPaths::findExecutable(u"gcloud"_s);
+    return script.readAll().replace("@HOME@", home.toUtf8()).replace("@GCLOUD@", gcloud.toUtf8());
 }
 
 } // namespace
@@ -170,7 +167,7 @@ QString GCloudTest::haveProgram(const QString &name, const QByteArray &script)
 {
     const QString path = scratch.filePath(u"bin/"_s) + name;
     QDir(scratch.path()).mkpath(u"bin"_s);
-    writeFile(path, "#!/bin/sh\n" + script + '\n');
+    writeFile(path, script.startsWith("#!") ? script : "#!/bin/sh\n" + script + '\n');
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
     return path;
 }

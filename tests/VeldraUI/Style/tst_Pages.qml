@@ -100,6 +100,9 @@ Item {
             compare(tabs.currentIndex, 1)
             verify(second.Accessible.selected)
             verify(!first.Accessible.selected)
+
+            second.Accessible.pressAction() // leaves it chosen
+            verify(second.Accessible.selected)
         }
 
         function test_theTabsStandInTheMiddle() {

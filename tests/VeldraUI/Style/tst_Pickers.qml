@@ -101,6 +101,16 @@ Item {
             fuzzyCompare(last.x, segmented.width, 0.5)
         }
 
+        function test_whereThereIsLittleRoomEachSegmentHasItsOwnWidth() {
+            const before = segmented.width
+            const needed = segmentsIn(segmented).map(segment => Math.ceil(segment.implicitWidth))
+            segmented.width = needed[0] + needed[1] + needed[2]
+                            + (segmented.implicitWidth - 3 * Math.max(...needed))
+            for (const segment of segmentsIn(segmented))
+                verify(!segment.contentItem.truncated)
+            segmented.width = before
+        }
+
         function test_theSegmentsFollowTheirOwner() {
             window.chosen = 2
             verify(segmentsIn(segmented)[2].checked)
@@ -148,6 +158,13 @@ Item {
             compare(entry.Accessible.name, "Icon + Project")
             entry.Accessible.pressAction()
             compare(popUp.currentIndex, 1)
+        }
+
+        function test_theMenuShowsEveryTextInFull() {
+            popUp.Accessible.pressAction()
+            tryVerify(() => popUp.popup.opened)
+            for (let i = 0; i < popUp.count; ++i)
+                verify(!popUp.popup.contentItem.itemAtIndex(i).contentItem.truncated)
         }
 
         function test_theMenuShowsTheChosenTextAndIsNamed() {
