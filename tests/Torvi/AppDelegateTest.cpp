@@ -116,6 +116,17 @@ TEST_F(AppDelegateTest, WatchesFromTheLaunchToTheEnd)
     EXPECT_TRUE(watcher->isCancelled);
 }
 
+TEST_F(AppDelegateTest, WatchesBeforeTheFirstRefreshReads)
+{
+    qsizetype readsBefore = -1;
+    watcher->onStart = [this, &readsBefore] { readsBefore = reader->reads.size(); };
+
+    launch();
+
+    EXPECT_EQ(readsBefore, 0);
+    EXPECT_FALSE(reader->reads.isEmpty());
+}
+
 TEST_F(AppDelegateTest, AnItemWithoutAButtonGetsNoImageAndNoAction)
 {
     desktop.isItemWithButton = false;
@@ -340,7 +351,7 @@ TEST_F(AppDelegateTest, ALiveTitleFollowsTheContextAndTheFormat)
     EXPECT_EQ(desktop.item->title, QString());
 }
 
-TEST_F(AppDelegateTest, ATitleThatIsNotLiveIgnoresANewFormat)
+TEST_F(AppDelegateTest, ATitleThatIsNotLiveTakesANewFormatAtTheNextOpening)
 {
     launch();
     clickItem();
@@ -348,8 +359,13 @@ TEST_F(AppDelegateTest, ATitleThatIsNotLiveIgnoresANewFormat)
 
     settings->format = MenubarDisplayFormat::iconOnly;
     Q_EMIT settings->changed();
-
     EXPECT_EQ(desktop.item->title, u" labs"_s);
+
+    clickItem(); // closes
+    clickItem();
+    EXPECT_EQ(desktop.item->title, u" labs"_s);
+    processEvents();
+    EXPECT_EQ(desktop.item->title, QString());
 }
 
 TEST_F(AppDelegateTest, AToggleFromElsewhereOpensAtTheItemOnceItIsKnown)

@@ -5,6 +5,8 @@
 
 #include "GCloudStateManager/FileWatching.h"
 
+#include <functional>
+
 namespace torvi {
 
 /// Changes happen when the test says so.
@@ -15,10 +17,12 @@ public:
     int starts = 0;
     int stops = 0;
     bool isCancelled = false;
+    std::function<void()> onStart = [] {};
 
     [[nodiscard]] ChangeStream start() override
     {
         ++starts;
+        onStart();
         stream.onCancel([this] { isCancelled = true; });
         return stream;
     }
