@@ -31,7 +31,7 @@ FocusScope {
     onIsShownChanged: {
         appear()
         if (!isShown)
-            forceActiveFocus() // so that it opens without a mark on any control
+            forgetFocus()
     }
 
     Component.onCompleted: appear()
@@ -109,6 +109,13 @@ FocusScope {
             hasAppeared = true
             stateManager.reload()
         }
+    }
+
+    // So that it opens without a mark on any control. A scope alone would hand the keyboard on to what
+    // had it last.
+    function forgetFocus() {
+        scrollArea.focus = true
+        scrollArea.focus = false
     }
 
     function refresh() {

@@ -17,6 +17,28 @@ Item {
         PopoverView {}
     }
 
+    // As the program has it: made before it is shown, and hidden in between.
+    Component {
+        id: windowComponent
+
+        Window {
+            id: window
+
+            required property AuthState stateManager
+            readonly property alias popover: popover
+
+            width: 400
+            height: 750
+
+            PopoverView {
+                id: popover
+
+                anchors.fill: parent
+                stateManager: window.stateManager
+            }
+        }
+    }
+
     Component {
         id: spyComponent
 
@@ -159,16 +181,50 @@ Item {
         }
 
         function test_itsFirstAppearanceRefreshesOnce() {
+            const window = createTemporaryObject(windowComponent, stage, { stateManager: world.stateManager })
+            world.settle()
+            verify(!world.stateManager.isLoading, "not before it is shown")
             world.expect("listProjects")
-            show()
+            window.show()
             world.settle()
             verify(world.stateManager.isLoading)
             world.finish("[]")
-            shown.visible = false
-            shown.visible = true
+            world.expire()
+            window.hide()
+            window.show()
             world.settle()
+            compare(world.commands, 1, "nor when it is shown again")
+            window.destroy()
+            wait(0)
+        }
 
-            compare(world.commands, 1)
+        function test_whatHadTheKeyboardIsForgottenWhenItIsHidden_data() {
+            return [{ tag: "button", from: "quitButton", isActive: true },
+                    { tag: "row", from: "projects/rows/p-1", isActive: true },
+                    { tag: "field", from: "emailField", isActive: true },
+                    { tag: "after a press elsewhere", from: "quitButton", isActive: false }]
+        }
+
+        function test_whatHadTheKeyboardIsForgottenWhenItIsHidden(data) {
+            world.list(["p-1"])
+            const window = createTemporaryObject(windowComponent, stage, { stateManager: world.stateManager })
+            window.show()
+            window.requestActivate()
+            world.settle()
+            const control = find(data.from, window.popover)
+            control.forceActiveFocus(Qt.TabFocusReason)
+            tryVerify(() => control.activeFocus)
+            if (!data.isActive) {
+                stage.Window.window.requestActivate()
+                tryVerify(() => !control.activeFocus)
+            }
+            window.hide()
+            window.show()
+            window.requestActivate()
+
+            tryVerify(() => window.activeFocusItem === window.popover)
+            window.destroy()
+            wait(0)
         }
 
         function refreshState(): var {
@@ -349,6 +405,13 @@ Item {
             world.stateManager.togglePin("project-00330")
 
             compare(find("scrollArea").contentY, 10000)
+        }
+
+        function test_assistiveTechnologyReadsItsName() {
+            open()
+
+            compare(shown.Accessible.role, Accessible.Pane)
+            compare(shown.Accessible.name, "Torvi")
         }
     }
 }
