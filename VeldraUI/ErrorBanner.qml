@@ -86,6 +86,7 @@ Rectangle {
         }
 
         Rectangle {
+            objectName: "focusMark"
             anchors.fill: scrollArea
             anchors.margins: -4
             visible: messageText.activeFocus && (messageText.focusReason === Qt.TabFocusReason

@@ -203,5 +203,37 @@ Item {
             compare(message.text, "<b>bold</b>")
             compare(message.textFormat, TextEdit.PlainText)
         }
+
+        function test_wrapsALongMessage() {
+            banner.error = "could not reach the server ".repeat(8)
+            verify(message.lineCount > 1)
+            verify(message.contentWidth <= message.width)
+            compare(area.height, message.height)
+        }
+
+        function test_isLegible() {
+            verify(Qt.colorEqual(message.color, banner.Theme.colors.primary))
+            verify(retryButton instanceof BorderedButton)
+            verify(dismissButton instanceof PlainButton)
+        }
+
+        function test_tellsAssistiveTechnologyItsMessageAsText() {
+            compare(message.Accessible.role, Accessible.StaticText)
+            compare(message.Accessible.name, banner.error)
+        }
+
+        function test_marksTheMessageForTheKeyboardOnly_data() {
+            return [{ tag: "Tab", reason: Qt.TabFocusReason, marked: true },
+                    { tag: "Backtab", reason: Qt.BacktabFocusReason, marked: true },
+                    { tag: "mouse", reason: Qt.MouseFocusReason, marked: false }]
+        }
+
+        function test_marksTheMessageForTheKeyboardOnly(data) {
+            const mark = findChild(banner, "focusMark")
+            banner.error = traceback()
+            verify(!mark.visible)
+            message.forceActiveFocus(data.reason)
+            compare(mark.visible, data.marked)
+        }
     }
 }

@@ -64,5 +64,16 @@ Item {
             compare(title.Accessible.role, Accessible.Heading)
             compare(title.Accessible.name, "PROJECTS")
         }
+
+        function test_centresItsPartsVertically() {
+            const line = header.height - 8 - 2
+            for (const part of [symbol, title])
+                fuzzyCompare(place(part).y + part.height / 2, 8 + line / 2, 0.5)
+        }
+
+        function test_withoutAnIconIsAsHighAsItsTitleAsksFor() {
+            header.icon = ""
+            compare(header.height, 8 + title.height + 2)
+        }
     }
 }

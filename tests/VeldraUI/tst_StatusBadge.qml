@@ -72,5 +72,16 @@ Item {
             compare(text.Accessible.role, Accessible.StaticText)
             compare(text.Accessible.name, "configured")
         }
+
+        function test_centresItsPartsVertically() {
+            badge.icon = "checkmark"
+            for (const part of [symbol, text])
+                fuzzyCompare(place(part).y + part.height / 2, badge.height / 2, 0.5)
+        }
+
+        function test_isWrittenInItsColour() {
+            verify(Qt.colorEqual(text.color, badge.color))
+            verify(Qt.colorEqual(symbol.color, badge.color))
+        }
     }
 }
