@@ -216,5 +216,19 @@ Item {
             verify(find("a@x").activeFocus)
             verify(!find("a@x").visualFocus)
         }
+
+        function test_allThatAreActiveAreMarked() {
+            world.setAccounts(["a@x", "b@x", "a@x"])
+            world.signIn("a@x")
+            show()
+
+            const marked = []
+            const rows = find("rows").children[0].children
+            for (let index = 0; index < rows.length; ++index) {
+                if (rows[index].email !== undefined)
+                    marked.push([rows[index].email, rows[index].current, isShown("badge", rows[index])])
+            }
+            compare(marked, [["a@x", true, true], ["b@x", false, false], ["a@x", true, true]])
+        }
     }
 }

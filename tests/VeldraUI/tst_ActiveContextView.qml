@@ -256,5 +256,33 @@ Item {
 
             compare(world.clipboard, ["secret token"])
         }
+
+        function middleOf(item: Item): real {
+            const place = placeOf(item)
+            return place.y + place.height / 2
+        }
+
+        function test_partsOfARowStandInItsMiddle() {
+            world.signIn("ada@example.com")
+            world.expect("printIdentityToken")
+            show()
+            press("copyButton")
+            tryVerify(() => find("progress").width > 0)
+
+            for (const part of ["symbol", "label", "value"])
+                fuzzyCompare(middleOf(find("project/" + part)), middleOf(find("project")), 0.5, part)
+            for (const part of ["copyButton", "progress"])
+                fuzzyCompare(middleOf(find(part)), middleOf(find("copyRow")), 0.5, part)
+            compare(find("project/symbol").size, Typography.callout.pixelSize)
+            world.finish("token")
+        }
+
+        function test_assistiveTechnologyReadsTheCardAsAGroup() {
+            show()
+
+            compare(shown.Accessible.role, Accessible.Grouping)
+            compare(shown.Accessible.name, "Active Context")
+            compare(find("title").Accessible.role, Accessible.Heading)
+        }
     }
 }

@@ -164,5 +164,18 @@ Item {
             world.settle()
             world.finish()
         }
+
+        function test_allThatAreActiveAreMarked() {
+            world.setConfigurations([{ name: "a" }, { name: "b" }, { name: "a" }], "a")
+            show()
+
+            const marked = []
+            const rows = find("rows").children[0].children
+            for (let index = 0; index < rows.length; ++index) {
+                if (rows[index].name !== undefined)
+                    marked.push([rows[index].name, rows[index].current, isShown("badge", rows[index])])
+            }
+            compare(marked, [["a", true, true], ["b", false, false], ["a", true, true]])
+        }
     }
 }

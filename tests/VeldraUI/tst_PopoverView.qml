@@ -413,5 +413,19 @@ Item {
             compare(shown.Accessible.role, Accessible.Pane)
             compare(shown.Accessible.name, "Torvi")
         }
+
+        function test_theFootersPartsStandInItsMiddle() {
+            world.expect("listProjects")
+            show()
+            world.settle()
+
+            const middles = ["managerButton", "quitButton", "footer/progress", "refreshButton"].map(part => {
+                const place = placeOf(find(part))
+                return place.y + place.height / 2
+            })
+            for (const middle of middles)
+                fuzzyCompare(middle, middles[0], 0.5)
+            world.finish("[]")
+        }
     }
 }
