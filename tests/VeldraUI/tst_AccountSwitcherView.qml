@@ -230,5 +230,27 @@ Item {
             }
             compare(marked, [["a@x", true, true], ["b@x", false, false], ["a@x", true, true]])
         }
+
+        function test_partsOfARowStandInItsMiddle() {
+            world.setAccounts(["a@x"])
+            world.signIn("a@x")
+            show()
+
+            for (const part of ["symbol", "text", "badge"]) {
+                const place = placeOf(find("a@x/" + part), find("a@x"))
+                fuzzyCompare(place.y + place.height / 2, find("a@x").height / 2, 0.5, part)
+            }
+            compare(find("a@x/symbol").size, Typography.callout.pixelSize)
+        }
+
+        function test_theKeyboardReadsALongEmailInFull() {
+            const email = "somebody-with-a-name-".repeat(4) + "@a-long-domain.example.com"
+            world.setAccounts([email])
+            show()
+            verify(!find(email + "/text").toolTipShown)
+            shown.rows.focusRow(0)
+
+            tryVerify(() => find(email + "/text").toolTipShown)
+        }
     }
 }

@@ -177,5 +177,24 @@ Item {
             }
             compare(marked, [["a", true, true], ["b", false, false], ["a", true, true]])
         }
+
+        function test_partsOfARowStandInItsMiddle() {
+            world.setConfigurations([{ name: "a", project: "p" }], "a")
+            show()
+
+            const row = find("a"), name = placeOf(find("a/text"), row), project = placeOf(find("a/subtitle"), row)
+            fuzzyCompare((name.y + project.y + project.height) / 2, row.height / 2, 0.5)
+            const badge = placeOf(find("a/badge"), row)
+            fuzzyCompare(badge.y + badge.height / 2, row.height / 2, 0.5)
+        }
+
+        function test_assistiveTechnologyActivates() {
+            showTwo()
+            compare(find("default").Accessible.role, Accessible.Button)
+            world.expect("activateConfiguration", "default")
+            find("default").Accessible.pressAction()
+            world.settle()
+            world.finish()
+        }
     }
 }

@@ -38,7 +38,7 @@ Item {
 
         function describe(item: Item): string {
             const row = find(item.projectId, item)
-            const title = isShown("groupTitle", item) ? "[" + text("groupTitle", item) + "] " : ""
+            const title = isShown("groupTitle", item) ? "[" + find("groupTitle", item).children[0].text + "] " : ""
             return title + (isShown("star", row) ? "★ " : "") + text("text", row)
                 + (isShown("badge", row) ? " *" : "")
         }
@@ -514,6 +514,61 @@ Item {
                     before = item.y
                 }
             }
+        }
+
+        function test_partsOfARowStandInItsMiddle() {
+            world.pinned = ["a"]
+            world.configure({ project: "a" })
+            world.list(["a"])
+            show()
+
+            const row = find("rows/a")
+            for (const part of ["star", "text", "badge"]) {
+                const place = placeOf(find(part, row), row)
+                fuzzyCompare(place.y + place.height / 2, row.height / 2, 0.5, part)
+            }
+        }
+
+        function test_theToolTipIsSeen() {
+            world.list(["short"], { short: "Short one" })
+            show()
+            mouseMove(find("rows/short"))
+
+            tryVerify(() => toolTip("short") !== null && toolTip("short").opened)
+            compare(toolTip("short").text, "Short one")
+            compare(toolTip("short").contentItem.text, "Short one")
+        }
+
+        function toolTip(id: string): var {
+            return findChild(find("rows/" + id), "toolTip")
+        }
+
+        function test_severalTapsStartSeveralSwitches() {
+            world.list(["a", "b", "c"])
+            show()
+            world.expect("setProject", "b")
+            world.expect("setProject", "c")
+            press("rows/b")
+            press("rows/c")
+            world.finish()
+            world.configure({ project: "c" })
+            world.finish()
+
+            compare(rows()[0], "[Recently Used] c *")
+            compare(world.recents, ["c"])
+        }
+
+        function test_aPressThatLeavesTheRowSwitchesNothing() {
+            world.list(["a", "b"])
+            show()
+            mousePress(find("rows/a"))
+            mouseMove(find("rows/b"))
+            mouseRelease(find("rows/b"))
+            world.settle()
+            compare(world.commands, 1, "only the listing")
+            world.expect("setProject", "a")
+            press("rows/a")
+            world.fail("")
         }
     }
 }
