@@ -175,5 +175,36 @@ Item {
             keyClick(Qt.Key_Tab)
             verify(find("quotaButton").visualFocus)
         }
+
+        function middleOf(item: Item): real {
+            const place = placeOf(item)
+            return place.y + place.height / 2
+        }
+
+        function test_partsOfTheStatusStandInItsMiddle() {
+            world.setADC("authorized_user", "p-1")
+            show()
+
+            for (const part of ["status/symbol", "badge"])
+                fuzzyCompare(middleOf(find(part)), middleOf(find("status")), 0.5, part)
+            const kind = placeOf(find("description")), quota = placeOf(find("quota"))
+            fuzzyCompare((kind.y + quota.y + quota.height) / 2, middleOf(find("status")), 0.5)
+            compare(find("status/symbol").size, Typography.callout.pixelSize)
+            fuzzyCompare(middleOf(find("loginButton")), middleOf(find("quotaButton")), 0.5)
+        }
+
+        function test_assistiveTechnologyReadsTheStatusAndPressesTheButtons() {
+            world.configure({ project: "p-1" })
+            world.setADC("authorized_user", "p-1")
+            show()
+
+            compare(find("description").Accessible.name, "User credentials")
+            compare(find("quota").Accessible.name, "Quota: p-1")
+            compare(find("badge/text").Accessible.name, "configured")
+            world.expect("setQuotaProject", "p-1")
+            find("quotaButton").Accessible.pressAction()
+            world.settle()
+            world.fail("")
+        }
     }
 }

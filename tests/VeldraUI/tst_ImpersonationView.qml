@@ -370,5 +370,55 @@ Item {
             compare(find("rows/a@p-1").Accessible.description, "a@p-1, 1 of 2")
             compare(find("rows/b@p-1").Accessible.description, "2 of 2")
         }
+
+        function middleOf(item: Item): real {
+            const place = placeOf(item)
+            return place.y + place.height / 2
+        }
+
+        function test_partsOfARowStandInItsMiddle() {
+            world.saveAccount("p-1", "a@p-1")
+            world.configure({ project: "p-1", impersonate: "c@x" })
+            world.setADC("impersonated_service_account", null, "a@x")
+            show()
+
+            for (const kind of ["cli", "adc"]) {
+                const row = find(kind)
+                for (const part of ["symbol", "clearButton"])
+                    fuzzyCompare(middleOf(find(part, row)), middleOf(row), 0.5, part)
+                const email = placeOf(find("email", row)), word = placeOf(find("kind", row))
+                fuzzyCompare((email.y + word.y + word.height) / 2, middleOf(row), 0.5)
+                compare(find("symbol", row).size, Typography.callout.pixelSize)
+            }
+            fuzzyCompare(middleOf(find("rows/a@p-1/text")), middleOf(find("rows/a@p-1")), 0.5)
+            fuzzyCompare(middleOf(find("emailField")), middleOf(find("goButton")), 0.5)
+        }
+
+        function test_theFieldHasARoundedBorder() {
+            show()
+
+            verify(find("emailField").framed)
+            verify(find("goButton") instanceof BorderedButton)
+        }
+
+        function test_savedAccountsAreShownInFull() {
+            const email = "e".repeat(90) + "@x"
+            world.saveAccount("p-1", email)
+            world.configure({ project: "p-1" })
+            show()
+            verify(find("rows/" + email + "/text").truncated)
+            shown.rows.focusRow(0)
+
+            tryVerify(() => find("rows/" + email + "/text").toolTipShown)
+        }
+
+        function test_aModeIsChosenByTheMouse() {
+            show()
+            const picker = find("modePicker")
+            mouseClick(picker, picker.width - 5, picker.height / 2)
+
+            compare(shown.selectedMode, AuthState.Both)
+            compare(picker.currentIndex, 2)
+        }
     }
 }
