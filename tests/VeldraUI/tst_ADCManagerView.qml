@@ -93,7 +93,7 @@ Item {
             const stack = find("stack")
 
             compare(insets(find("status"), stack).slice(0, 3), [16, 16, 16])
-            compare(insets(find("actions"), stack)[3], 16)
+            compare(insets(find("actions"), stack).slice(2), [16, 16])
             compare(gapBelow(find("status"), find("actions")), 16)
             compare(find("status").padding, 8)
             compare(find("actions").padding, 8)
@@ -262,6 +262,37 @@ Item {
             compare(find("type/value").Accessible.name, "Not Configured")
             compare(find("quotaField").Accessible.name, "Quota project ID")
             compare(find("loginButton").Accessible.role, Accessible.Button)
+        }
+
+        function test_theFieldIsBoundToTheInput() {
+            show({ quotaProjectInput: "before" })
+            compare(text("quotaField"), "before")
+            mouseClick(find("quotaField"))
+            keyClick(Qt.Key_End)
+            keyClick(Qt.Key_1)
+            compare(shown.quotaProjectInput, "before1")
+            shown.quotaProjectInput = "after"
+
+            compare(text("quotaField"), "after")
+            verify(find("quotaField").framed)
+        }
+
+        function test_theFieldStandsInTheMiddleOfItsRow() {
+            show()
+            const field = placeOf(find("quotaField")), button = placeOf(find("setButton"))
+
+            fuzzyCompare(field.y + field.height / 2, button.y + button.height / 2, 0.5)
+        }
+
+        function test_assistiveTechnologyReadsEachFactWithItsLabel() {
+            show()
+
+            compare(find("type/label").Accessible.name, "Type:")
+            compare(find("type/value").Accessible.role, Accessible.StaticText)
+            for (const [name, text] of [["loginButton", "Run ADC Login (opens browser)"], ["setButton", "Set Quota Project"]]) {
+                compare(find(name).Accessible.role, Accessible.Button)
+                compare(find(name).Accessible.name, text)
+            }
         }
     }
 }

@@ -163,7 +163,7 @@ Item {
             show()
 
             verify(find("quota").truncated)
-            verify(gapAfter(find("quota"), find("badge")) >= 12)
+            compare(gapAfter(find("quota"), find("badge")), 12)
             mouseMove(find("quota"))
             tryVerify(() => find("quota").toolTipShown)
         }

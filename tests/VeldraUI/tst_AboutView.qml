@@ -96,5 +96,25 @@ Item {
             compare(find("version").textStyle, Typography.caption)
             verify(placeOf(find("version")).y > placeOf(find("stack")).y + find("stack").height)
         }
+
+        function test_textsAreCentred() {
+            show({ width: 300 })
+
+            for (const name of ["name", "description"])
+                compare(find(name).horizontalAlignment, Text.AlignHCenter, name)
+            verify(find("description").lineCount > 1)
+            for (const name of ["description", "version"]) {
+                const place = placeOf(find(name))
+                compare(place.x + place.width / 2, 150, name)
+            }
+        }
+
+        function test_assistiveTechnologyReadsThePage() {
+            show()
+
+            compare(find("icon").Accessible.name, "Torvi icon")
+            compare(find("name").Accessible.role, Accessible.Heading)
+            compare(find("description").Accessible.name, "Google Cloud authentication manager for macOS")
+        }
     }
 }

@@ -147,7 +147,8 @@ Item {
 
             for (const kind of ["cli", "adc"]) {
                 verify(find(kind + "/email").truncated)
-                verify(gapAfter(find(kind + "/email"), find(kind + "/clearButton")) >= 12)
+                compare(gapAfter(find(kind + "/email"), find(kind + "/clearButton")), 12)
+                compare(find(kind + "/email").elide, Text.ElideMiddle)
             }
         }
 

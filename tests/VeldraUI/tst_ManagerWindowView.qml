@@ -44,6 +44,8 @@ Item {
             compare(shown.implicitWidth, 600)
             compare(shown.implicitHeight, 450)
             compare(find("background").color, colors.windowBackground)
+            compare(insets(find("background"), shown), [0, 0, 0, 0])
+            compare(placeOf(find("tabs")), Qt.rect(0, 0, 600, find("tabs").height))
         }
 
         function test_tabs_data() {
@@ -243,10 +245,26 @@ Item {
 
         function test_itIsALightOrADarkWindow() {
             show()
-            for (const dark of [true, false]) {
+            const shades = [true, false].map(dark => {
                 shown.Theme.dark = dark
                 compare(find("background").color, shown.Theme.colors.windowBackground)
-            }
+                return find("background").color.hslLightness
+            })
+            verify(shades[0] < 0.3 && shades[1] > 0.7, shades)
+        }
+
+        function test_controlBacktabGoesBackAsX11TellsIt() {
+            show()
+            keyClick(Qt.Key_Backtab, Qt.ControlModifier)
+
+            compare(shownPage(), "aboutPage")
+        }
+
+        function test_assistiveTechnologyReadsItsName() {
+            show()
+
+            compare(shown.Accessible.role, Accessible.Pane)
+            compare(shown.Accessible.name, "Torvi")
         }
     }
 }

@@ -229,5 +229,19 @@ Item {
             const place = placeOf(find("gcloudPath"))
             verify(place.y >= 0 && place.y + place.height <= 200)
         }
+
+        function test_thePathIsTypedInAFieldWithARoundedBorder() {
+            show()
+
+            verify(find("gcloudPath").framed)
+        }
+
+        function test_theHintIsReadInFullInASmallWindow() {
+            show({ width: 300 })
+
+            verify(find("gcloudPathHint").lineCount > 1)
+            verify(!find("gcloudPathHint").truncated)
+            compare(find("gcloudPathHint").width, find("gcloudPath").width)
+        }
     }
 }
