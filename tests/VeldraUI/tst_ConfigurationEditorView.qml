@@ -470,5 +470,86 @@ Item {
             compare(find("labs/activateButton").Accessible.description, "labs")
             compare(sheet.contentItem.Accessible.role, Accessible.Dialog)
         }
+
+        function middleOf(item: Item): real {
+            const place = placeOf(item)
+            return place.y + place.height / 2
+        }
+
+        function test_partsOfARowStandInItsMiddle() {
+            showThree()
+
+            for (const part of ["texts", "activateButton", "deleteButton"])
+                fuzzyCompare(middleOf(find("labs/" + part)), middleOf(find("labs")), 0.5, part)
+            fuzzyCompare(middleOf(find("default/badge")), middleOf(find("default/name")), 0.5)
+        }
+
+        function test_theKeyboardReadsLongTextsInFull() {
+            const lengthy = "n".repeat(200)
+            world.setConfigurations([{ name: lengthy, project: "p".repeat(200) }, { name: "x" }], "x")
+            show()
+            verify(find(lengthy + "/project").truncated)
+            keyClick(Qt.Key_Tab)
+            verify(find(lengthy).visualFocus)
+
+            tryVerify(() => find(lengthy + "/name").toolTipShown)
+            tryVerify(() => find(lengthy + "/project").toolTipShown)
+        }
+
+        function test_barAndDividerAreAsWideAsThePage() {
+            showThree()
+
+            for (const name of ["divider", "bottomBar"])
+                compare(find(name).width, 600, name)
+            verify(find("createButton") instanceof BorderedButton)
+        }
+
+        function test_theNameIsTypedInAFieldWithARoundedBorder() {
+            showThree()
+            openSheet()
+
+            verify(inSheet("nameField").framed)
+            shown.newConfigName = "given"
+            compare(inSheet("nameField").text, "given")
+        }
+
+        function test_assistiveTechnologyReadsListAndSheet() {
+            showThree()
+            openSheet()
+
+            compare(find("list").Accessible.name, "Configurations")
+            compare(sheet.contentItem.Accessible.name, "New Configuration")
+            compare(inSheet("title").Accessible.role, Accessible.Heading)
+            compare(inSheet("nameField").Accessible.role, Accessible.EditableText)
+            compare(inSheet("nameField").Accessible.name, "Configuration name")
+            for (const [name, text] of [["cancelButton", "Cancel"], ["createButton", "Create"]]) {
+                compare(inSheet(name).Accessible.role, Accessible.Button)
+                compare(inSheet(name).Accessible.name, text)
+            }
+        }
+
+        function test_assistiveTechnologyActivatesAndDeletes() {
+            showThree()
+            world.expect("activateConfiguration", "labs")
+            find("labs/activateButton").Accessible.pressAction()
+            world.settle()
+            world.fail("")
+            world.expect("deleteConfiguration", "labs")
+            find("labs/deleteButton").Accessible.pressAction()
+            world.settle()
+            world.fail("")
+        }
+
+        function test_everyLongPropertyIsShortenedInItsMiddle() {
+            world.setConfigurations([{ name: "a", project: "p".repeat(200), account: "a".repeat(200),
+                                       region: "r".repeat(200) }, { name: "x" }], "x")
+            show()
+
+            for (const name of ["project", "account", "region"]) {
+                verify(find("a/" + name).truncated, name)
+                compare(find("a/" + name).elide, Text.ElideMiddle)
+                compare(gapAfter(find("a/" + name), find("a/activateButton")), 12)
+            }
+        }
     }
 }

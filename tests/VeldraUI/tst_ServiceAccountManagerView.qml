@@ -560,5 +560,98 @@ Item {
             compare(find("b@x/saveButton").Accessible.name, "Save for quick access")
             compare(find("modePicker").Accessible.name, "Mode")
         }
+
+        function middleOf(item: Item): real {
+            const place = placeOf(item)
+            return place.y + place.height / 2
+        }
+
+        function test_partsOfRowsAndBarsStandInTheirMiddle() {
+            world.saveAccount("p1", "s@x", "Deployer")
+            showFound(["b@x"])
+
+            for (const [row, parts] of [["s@x", ["texts", "impersonateButton", "removeButton"]],
+                                        ["b@x", ["texts", "impersonateButton", "saveButton"]],
+                                        ["topBar", ["projectLabel", "projectPicker", "modePicker"]],
+                                        ["addForm", ["emailField", "labelField", "addButton"]]]) {
+                for (const part of parts)
+                    fuzzyCompare(middleOf(find(row + "/" + part)), middleOf(find(row)), 0.5, row + "/" + part)
+            }
+        }
+
+        function test_theKeyboardReadsALongEmailInFull() {
+            const email = "e".repeat(200) + "@example.com"
+            world.saveAccount("p1", email, "d".repeat(200))
+            showFound([])
+            verify(find(email + "/displayName").truncated)
+            find("list").forceActiveFocus(Qt.TabFocusReason)
+            tryVerify(() => find(email).visualFocus)
+
+            tryVerify(() => find(email + "/email").toolTipShown)
+            tryVerify(() => find(email + "/displayName").toolTipShown)
+        }
+
+        function test_barsAndDividersAreAsWideAsThePage() {
+            showFound(["b@x"])
+
+            for (const name of ["topBar", "topDivider", "content", "list", "bottomDivider", "addForm"])
+                compare(find(name).width, 600, name)
+            compare(placeOf(find("projectLabel")).x, 12)
+            compare(placeOf(find("emailField")).x, 12)
+            const add = placeOf(find("addButton"))
+            compare(add.x + add.width, 600 - 12)
+        }
+
+        function test_whatFillsThePageStandsInItsMiddle() {
+            world.signIn("a@x", "p1")
+            world.expect("listServiceAccounts", "p1")
+            show()
+            world.settle()
+            const middle = () => middleOf(find("content"))
+            for (const part of ["progress", "loadingText"])
+                compare(placeOf(find(part)).x + find(part).width / 2, 300, part)
+            fuzzyCompare(middleOf(find("loading")), middle(), 0.5)
+            verify(placeOf(find("loadingText")).y > placeOf(find("progress")).y)
+            world.finish("[]")
+            compare(shownContent(), "noAccounts")
+
+            fuzzyCompare(middleOf(find("noAccounts")), middle(), 0.5)
+            compare(placeOf(find("noAccounts")).x + find("noAccounts").width / 2, 300)
+        }
+
+        function test_theFieldsAreBoundToWhatIsTyped() {
+            show({ newEmail: "n@x", newDisplayName: "New" })
+
+            compare(text("emailField"), "n@x")
+            compare(text("labelField"), "New")
+        }
+
+        function test_returnInTheLabelAddsToo() {
+            showFound([])
+            type("labelField", "New")
+            keyClick(Qt.Key_Return)
+            compare(world.saved("p1"), [], "not without an e-mail")
+            type("emailField", "n@x")
+            mouseClick(find("labelField"))
+            keyClick(Qt.Key_Return)
+
+            compare(world.saved("p1"), [{ email: "n@x", displayName: "New" }])
+        }
+
+        function test_assistiveTechnologyReadsAndPressesEveryControl() {
+            showFound(["b@x"])
+
+            compare(find("emailField").Accessible.name, "Service account email")
+            compare(find("labelField").Accessible.name, "Label (optional)")
+            compare(find("addButton").Accessible.name, "Add")
+            compare(find("b@x/impersonateButton").Accessible.name, "Impersonate")
+            compare(find("b@x/impersonateButton").Accessible.description, "b@x")
+            world.expect("adcLoginWithImpersonation", "b@x")
+            find("b@x/impersonateButton").Accessible.pressAction()
+            world.settle()
+            world.fail("")
+            find("b@x/saveButton").Accessible.pressAction()
+            compare(world.saved("p1").length, 1)
+        }
     }
 }
