@@ -31,7 +31,7 @@ FocusScope {
     onIsShownChanged: {
         appear()
         if (!isShown)
-            forgetFocus()
+            forget()
     }
 
     Component.onCompleted: appear()
@@ -111,11 +111,13 @@ FocusScope {
         }
     }
 
-    // So that it opens without a mark on any control. A scope alone would hand the keyboard on to what
-    // had it last.
-    function forgetFocus() {
+    // So that it opens without a menu, and without a mark on any control: a scope alone would hand the
+    // keyboard on to what had it last.
+    function forget() {
+        sections.projects.rows.menu.close()
         scrollArea.focus = true
         scrollArea.focus = false
+        forceActiveFocus()
     }
 
     function refresh() {

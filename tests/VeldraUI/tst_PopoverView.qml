@@ -427,5 +427,31 @@ Item {
                 fuzzyCompare(middle, middles[0], 0.5)
             world.finish("[]")
         }
+
+        function test_aMenuGoesWithThePopover_data() {
+            return [{ tag: "by mouse", keyboard: false }, { tag: "by keyboard", keyboard: true }]
+        }
+
+        function test_aMenuGoesWithThePopover(data) {
+            world.list(["p-1"])
+            const window = createTemporaryObject(windowComponent, stage, { stateManager: world.stateManager })
+            window.show()
+            window.requestActivate()
+            world.settle()
+            const rows = find("projects/rows", window.popover)
+            rows.focusRow(0)
+            tryVerify(() => rows.activeFocus)
+            rows.menu.ask("p-1", false, data.keyboard)
+            rows.menu.popup(find("projects/rows/p-1", window.popover), 5, 5)
+            tryVerify(() => rows.menu.opened)
+            window.hide()
+            window.show()
+            window.requestActivate()
+
+            verify(!rows.menu.visible)
+            tryVerify(() => window.activeFocusItem === window.popover)
+            window.destroy()
+            wait(0)
+        }
     }
 }
