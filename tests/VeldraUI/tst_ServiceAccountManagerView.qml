@@ -615,8 +615,12 @@ Item {
             world.finish("[]")
             compare(shownContent(), "noAccounts")
 
-            fuzzyCompare(middleOf(find("noAccounts")), middle(), 0.5)
-            compare(placeOf(find("noAccounts")).x + find("noAccounts").width / 2, 300)
+            choose(0)
+            for (const panel of ["noAccounts", "noProject"]) {
+                fuzzyCompare(middleOf(find(panel)), middle(), 0.5, panel)
+                compare(placeOf(find(panel)).x, 24, panel)
+                compare(find(panel).width, 600 - 48, panel)
+            }
         }
 
         function test_theFieldsAreBoundToWhatIsTyped() {
