@@ -657,5 +657,15 @@ Item {
             find("b@x/saveButton").Accessible.pressAction()
             compare(world.saved("p1").length, 1)
         }
+
+        function test_aLongDisplayNameIsShortenedInItsRow() {
+            world.saveAccount("p1", "s@x", "d".repeat(200))
+            world.saveAccount("p1", "e".repeat(200))
+            showFound([])
+
+            compare(gapAfter(find("s@x/displayName"), find("s@x/impersonateButton")), 12)
+            compare(gapAfter(find("e".repeat(200) + "/email"), find("e".repeat(200) + "/impersonateButton")), 12)
+            compare(find("s@x/email").elide, Text.ElideMiddle)
+        }
     }
 }
