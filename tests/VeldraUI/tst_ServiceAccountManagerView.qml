@@ -667,5 +667,12 @@ Item {
             compare(gapAfter(find("e".repeat(200) + "/email"), find("e".repeat(200) + "/impersonateButton")), 12)
             compare(find("s@x/email").elide, Text.ElideMiddle)
         }
+
+        function test_theTitlesOfTheSectionsAreDrawn() {
+            world.saveAccount("p1", "s@x")
+            showFound(["b@x"])
+
+            compare(headings().map(heading => find("title", heading).text), ["Saved", "Discovered from GCP"])
+        }
     }
 }
