@@ -294,5 +294,19 @@ Item {
                 compare(find(name).Accessible.name, text)
             }
         }
+
+        function drawnTexts(item: Item): var {
+            const texts = item instanceof Text && item.visible ? [item.text] : []
+            for (let index = 0; index < item.children.length; ++index)
+                texts.push(...drawnTexts(item.children[index]))
+            return texts
+        }
+
+        function test_theTitlesOfTheBoxesAreDrawn() {
+            show()
+
+            verify(drawnTexts(find("status")).includes("Current ADC Status"))
+            verify(drawnTexts(find("actions")).includes("Actions"))
+        }
     }
 }

@@ -243,5 +243,20 @@ Item {
             verify(!find("gcloudPathHint").truncated)
             compare(find("gcloudPathHint").width, find("gcloudPath").width)
         }
+
+        function drawnTexts(item: Item): var {
+            const texts = item instanceof Text && item.visible ? [item.text] : []
+            for (let index = 0; index < item.children.length; ++index)
+                texts.push(...drawnTexts(item.children[index]))
+            return texts
+        }
+
+        function test_everyTextIsDrawn() {
+            show()
+
+            compare(drawnTexts(find("general")).filter(text => text !== ""),
+                    ["General", "Launch at Login", "Menubar Display", "Icon + Project", "Refresh interval: 5 min"])
+            compare(drawnTexts(find("gcloudCLI"))[0], "gcloud CLI")
+        }
     }
 }
