@@ -17,6 +17,7 @@ Column {
     property real viewportHeight: 750
 
     readonly property RowArea rows: projectRows
+    readonly property ContextMenu menu: projectRows.menu
     readonly property bool isFilterOffered: projects.isFilterOffered
 
     spacing: 4
