@@ -262,14 +262,20 @@ class Desktop:
     def windows(self):
         """(width, height, x, y) of Torvi's visible windows, by their identifiers."""
         found = {}
-        for identifier in self.run("xdotool", "search", "--onlyvisible", "--name",
-                                   "^Torvi$").split():
+        for identifier in wait_for(self._search_windows, "a look at all windows").stdout.split():
             geometry = dict(re.findall(r"(\w+)=(-?\d+)", self.run(
                 "xdotool", "getwindowgeometry", "--shell", identifier)))
             if "WIDTH" in geometry:
                 found[identifier] = tuple(int(geometry[part])
                                           for part in ("WIDTH", "HEIGHT", "X", "Y"))
         return found
+
+    def _search_windows(self):
+        """xdotool's answer; None when it failed because one of any program's windows went meanwhile."""
+        done = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Torvi$"],
+                              env=self.environment, stdin=subprocess.DEVNULL, capture_output=True,
+                              text=True, timeout=PATIENCE, check=False)
+        return None if "X Error" in done.stderr else done
 
     def popover(self):
         """(x, y) of the popover, or None."""
