@@ -6,7 +6,7 @@ import unittest
 
 from demo_world import DemoWorldTestCase, demo
 from desktop import wait_for
-from open_window import FIELD, LABEL, MENU_ENTRY, SEGMENT
+from open_window import LABEL, MENU_ENTRY, SEGMENT
 
 CHECKOUT = "larkspur-checkout-prod"
 CAFE = "larkspur-cafe-fr"

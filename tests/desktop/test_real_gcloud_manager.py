@@ -7,7 +7,8 @@ import unittest
 from desktop import wait_for
 from open_manager import PICKER, ROW, TAB
 from open_window import BUTTON, FIELD, LABEL, SEGMENT
-from signed_in_world import (DANA, DEPLOYER, PLAIN, PROD, READER, STAGE, RealGCloudTestCase)
+from real_gcloud_test_case import RealGCloudTestCase
+from signed_in_world import DANA, DEPLOYER, PLAIN, PROD, READER, STAGE
 
 ROBOT = "robot@example.com"
 

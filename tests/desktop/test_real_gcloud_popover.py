@@ -6,7 +6,8 @@ import unittest
 
 from desktop import wait_for
 from open_window import BUTTON, FIELD, LABEL, MENU_ENTRY, SEGMENT
-from signed_in_world import (DANA, DEPLOYER, PROD, READER, SAM, STAGE, RealGCloudTestCase, claims_of)
+from real_gcloud_test_case import RealGCloudTestCase, claims_of
+from signed_in_world import DANA, DEPLOYER, PROD, READER, SAM, STAGE
 
 REPORTS = "orchard-data-5150"
 SANDBOX = "labs-sandbox-3141"
