@@ -48,11 +48,13 @@ def wakeups(before, after):
 
 
 def wait_until_still(pid, seconds):
-    """Returns when no thread of the process has run for so long."""
-    before = {}
-    while (now := context_switches(pid)) != before:
-        before = now
+    """Returns when no thread of the process has run for so long, or when that never comes."""
+    before = context_switches(pid)
+    for _ in range(20):
         time.sleep(seconds)
+        if (now := context_switches(pid)) == before:
+            return
+        before = now
 
 
 def idle_row(title, pid):
