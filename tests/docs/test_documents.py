@@ -219,7 +219,7 @@ class DocumentsTest(unittest.TestCase):
             for span in documents.spans(documents.read(path)):
                 words = span.split()
                 with self.subTest(f"{path}: {span}"):
-                    if words[0] in helps and len(words) > 1 and words[1] not in ("COMMAND", "status"):
+                    if words[0] in helps and len(words) > 1:
                         self.assertRegex(helps[words[0]], rf"(^|\s){re.escape(words[1])}\b")
                     elif words[0] == "./dev" and len(words) > 1:
                         known_to_dev(None, span)
