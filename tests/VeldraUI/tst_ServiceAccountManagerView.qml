@@ -609,7 +609,7 @@ Item {
             world.settle()
             const middle = () => middleOf(find("content"))
             for (const part of ["progress", "loadingText"])
-                compare(placeOf(find(part)).x + find(part).width / 2, 300, part)
+                fuzzyCompare(placeOf(find(part)).x + find(part).width / 2, 300, 0.5, part)
             fuzzyCompare(middleOf(find("loading")), middle(), 0.5)
             verify(placeOf(find("loadingText")).y > placeOf(find("progress")).y)
             world.finish("[]")
