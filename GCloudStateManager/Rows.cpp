@@ -49,7 +49,8 @@ QList<Row> contextRows(const AuthContext &context)
         rows.append({ QCoreApplication::translate("Rows", "Impersonating"),
                       context.impersonatedServiceAccount->email, true });
     }
-    rows.append({ QCoreApplication::translate("Rows", "ADC"), ADCWords::summary(context.adcState.type) });
+    rows.append(
+        { QCoreApplication::translate("Rows", "ADC"), ADCWords::summary(context.adcState.type) });
     return rows;
 }
 
