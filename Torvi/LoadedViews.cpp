@@ -3,6 +3,7 @@
 
 #include "Torvi/LoadedViews.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QPluginLoader>
 
@@ -107,10 +108,14 @@ ViewFactory *LoadedViews::views()
         if (auto *plugin = qobject_cast<ViewsPlugin *>(loader.instance())) {
             m_views = plugin->makeViews(m_surroundings);
         } else {
+            const QString reason = loader.isLoaded()
+                ? QCoreApplication::translate("LoadedViews", "It is of another version.")
+                : loader.errorString();
             m_onFailure(
-                u"The windows cannot be loaded from %1, so Torvi must be installed again: %2"_s.arg(
-                    m_module,
-                    loader.isLoaded() ? u"It is of another version."_s : loader.errorString()));
+                QCoreApplication::translate("LoadedViews",
+                                            "The windows cannot be loaded from %1, so Torvi "
+                                            "must be installed again: %2")
+                    .arg(m_module, reason));
         }
     }
     return m_views.get();
