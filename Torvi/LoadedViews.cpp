@@ -9,8 +9,6 @@
 
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace torvi {
 
 namespace {
