@@ -40,7 +40,7 @@ ActionRow {
 
             Item {
                 width: parent.width
-                height: Math.max(nameText.height, root.isActive ? badge.height : 0)
+                height: Math.max(nameText.height, badge.height)
 
                 ElidedText {
                     id: nameText
@@ -57,10 +57,9 @@ ActionRow {
                 ActiveBadge {
                     id: badge
 
-                    objectName: "badge"
                     anchors.verticalCenter: parent.verticalCenter
                     x: nameText.width + 6
-                    visible: root.isActive
+                    active: root.isActive
                 }
             }
 

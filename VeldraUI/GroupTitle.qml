@@ -5,19 +5,17 @@ import QtQuick
 
 import VeldraUI.Style
 
-// The title over a group of rows.
-Item {
+// The title over a group of rows. Most rows have no `text` over them: theirs is never made.
+Loader {
     id: root
 
     property string text: ""
 
-    implicitHeight: title.height + 2
+    active: text !== ""
 
-    StyledText {
-        id: title
-
-        x: 8
-        y: 2
+    sourceComponent: StyledText {
+        leftPadding: 8
+        topPadding: 2
         text: root.text
         textStyle: Typography.caption
         color: Theme.colors.tertiary

@@ -30,17 +30,20 @@ RowButton {
 
     contentItem: Item {
         // Also of a row that is not on screen.
-        implicitHeight: Math.max(idText.height, root.isPinned ? star.height : 0, root.isActive ? badge.height : 0)
+        implicitHeight: Math.max(idText.height, star.height, badge.height)
 
-        Symbol {
+        Loader {
             id: star
 
-            objectName: "star"
             anchors.verticalCenter: parent.verticalCenter
-            visible: root.isPinned
-            name: "star.fill"
-            size: Typography.caption.pixelSize
-            color: Theme.colors.yellow
+            active: root.isPinned
+
+            sourceComponent: Symbol {
+                objectName: "star"
+                name: "star.fill"
+                size: Typography.caption.pixelSize
+                color: Theme.colors.yellow
+            }
         }
 
         StyledText {
@@ -60,10 +63,9 @@ RowButton {
         ActiveBadge {
             id: badge
 
-            objectName: "badge"
             anchors.verticalCenter: parent.verticalCenter
             x: parent.width - width
-            visible: root.isActive
+            active: root.isActive
         }
     }
 

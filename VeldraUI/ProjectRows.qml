@@ -73,7 +73,7 @@ RowArea {
 
             GroupTitle {
                 objectName: "groupTitle"
-                visible: item.groupTitle !== ""
+                visible: active
                 text: item.groupTitle
             }
 
@@ -145,6 +145,7 @@ RowArea {
         id: titleRow
 
         visible: false
+        text: "-"
         Accessible.ignored: true
     }
 }

@@ -13,19 +13,23 @@ namespace {
 /// No byte of UTF-8: no query contains it, so no match reaches from one text into the next.
 constexpr char kSeparator = '\xff';
 
-/// Appends `text` in lower case. Ids are ASCII and names mostly are: the short way for them saves
-/// most of the time that thousands of projects take.
+/// Appends `text` in lower case. Ids are ASCII and names mostly are: they take a loop without a
+/// branch, which saves most of the time that thousands of projects take.
 void appendFolded(std::string &out, const QString &text)
 {
     const std::size_t before = out.size();
-    for (const QChar character : text) {
-        const char16_t unit = character.unicode();
-        if (unit >= 0x80) {
-            out.resize(before);
-            out += text.toLower().toStdString();
-            return;
-        }
-        out += static_cast<char>(unit >= u'A' && unit <= u'Z' ? unit + (u'a' - u'A') : unit);
+    const QStringView units(text);
+    out.resize(before + static_cast<std::size_t>(units.size()));
+    char *folded = out.data() + before;
+    unsigned seen = 0;
+    for (const QChar character : units) {
+        const unsigned unit = character.unicode();
+        seen |= unit;
+        *folded++ = static_cast<char>(unit + (unit - 'A' < 26U ? 'a' - 'A' : 0U));
+    }
+    if (seen >= 0x80) {
+        out.resize(before);
+        out += text.toLower().toStdString();
     }
 }
 

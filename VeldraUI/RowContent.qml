@@ -21,7 +21,7 @@ Item {
 
     readonly property bool hasSymbol: symbolName !== ""
 
-    implicitHeight: Math.max(hasSymbol ? symbol.height : 0, texts.height, active ? badge.height : 0)
+    implicitHeight: Math.max(hasSymbol ? symbol.height : 0, texts.height, badge.height)
 
     Item {
         id: symbolFrame
@@ -71,9 +71,8 @@ Item {
     ActiveBadge {
         id: badge
 
-        objectName: "badge"
         anchors.verticalCenter: parent.verticalCenter
         x: root.width - width
-        visible: root.active
+        active: root.active
     }
 }

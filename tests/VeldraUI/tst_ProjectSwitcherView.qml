@@ -341,8 +341,9 @@ Item {
             const words = title.children[0]
             compare(words.textStyle, Typography.caption)
             compare(words.color, colors.tertiary)
-            compare([words.x, words.y], [8, 2])
-            compare(title.height, words.height + 2)
+            compare([words.leftPadding, words.topPadding], [8, 2])
+            compare(title.height, words.height)
+            compare(title.height, Math.ceil(words.contentHeight) + 2)
             compare(gapBelow(title, find("rows/c")), 4)
             compare(gapBelow(find("rows/c"), find("groupTitle", find("rows/d").parent)), 4)
             compare(find("rows").height, placeOf(find("rows/d"), find("rows")).y + find("rows/d").height)
