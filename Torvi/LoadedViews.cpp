@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFontDatabase>
 #include <QPluginLoader>
 
 #include <utility>
@@ -102,6 +103,9 @@ LoadedViews::makeManagerWindow(AuthStateManager &stateManager,
 ViewFactory *LoadedViews::views()
 {
     if (!m_views) {
+        // The first text waits for what is known of all installed fonts, and for little else as
+        // long: that is found out beside the loading.
+        m_fontReading = std::jthread([] { static_cast<void>(QFontDatabase::families()); });
         QPluginLoader loader(m_module);
         if (auto *plugin = qobject_cast<ViewsPlugin *>(loader.instance())) {
             m_views = plugin->makeViews(m_surroundings);

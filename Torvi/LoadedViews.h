@@ -5,6 +5,8 @@
 
 #include "Torvi/ViewsPlugin.h"
 
+#include <thread>
+
 namespace torvi {
 
 /// The views, from a module that is loaded when the first of them is shown: most who start Torvi
@@ -34,6 +36,7 @@ private:
     ViewSurroundings m_surroundings;
     std::function<void(const QString &)> m_onFailure;
     std::unique_ptr<ViewFactory> m_views;
+    std::jthread m_fontReading;
 };
 
 } // namespace torvi

@@ -8,9 +8,11 @@
 #include "Torvi/Quick/Renderer.h"
 #include "VeldraUI/AuthState.h"
 #include "VeldraUI/Style/Theme.h"
+#include "VeldraUI/Style/Typography.h"
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QQmlComponent>
 #include <QQuickItem>
 
 #include <utility>
@@ -21,13 +23,18 @@ namespace torvi {
 
 namespace {
 
-/// Loads a view of VeldraUI, with a state of its own.
+/// Loads a view of VeldraUI, with a state of its own. The engine reads the types in a thread of its
+/// own; what the view needs besides is done meanwhile.
 void load(QQuickView &window, const QString &view, AuthStateManager &stateManager,
           Clipboard &clipboard)
 {
+    const QUrl source(u"qrc:/qt/qml/VeldraUI/%1.qml"_s.arg(view));
+    QQmlComponent types(window.engine());
+    types.loadUrl(source, QQmlComponent::Asynchronous);
+    Typography::loadFonts();
     auto *state = new AuthState(stateManager, clipboard, {}, &window);
     window.setInitialProperties({ { u"stateManager"_s, QVariant::fromValue(state) } });
-    window.setSource(QUrl(u"qrc:/qt/qml/VeldraUI/%1.qml"_s.arg(view)));
+    window.setSource(source);
 }
 
 } // namespace
@@ -43,7 +50,6 @@ QQmlEngine *QuickViewFactory::engine()
 {
     if (!m_engine) {
         Renderer::choose();
-        QGuiApplication::setWindowIcon(QIcon(u":/torvi/com.veldra.Torvi.svg"_s));
         m_engine = std::make_unique<QQmlEngine>();
         m_engine->addImportPath(u"qrc:/qt/qml"_s);
     }
@@ -81,6 +87,7 @@ QuickViewFactory::makeManagerWindow(AuthStateManager &stateManager,
 {
     const auto makeWindow = [this, &stateManager](std::function<void()> onClose) {
         auto window = std::make_unique<ManagerWindow>(engine(), std::move(onClose));
+        window->setIcon(QIcon(u":/torvi/com.veldra.Torvi.svg"_s));
         load(*window, u"ManagerWindowView"_s, stateManager, m_surroundings.clipboard);
         m_surroundings.followColorScheme(
             *window, [shown = window.get()](bool isDark) { Theme::of(*shown).setDark(isDark); });

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Torvi developers
+// SPDX-License-Identifier: MIT
+
+#include "VeldraUI/Style/Typography.h"
+
+#include <QFontMetricsF>
+
+namespace torvi {
+
+namespace {
+
+QFont font(int pixelSize, QFont::Weight weight = QFont::Normal)
+{
+    QFont font;
+    font.setPixelSize(pixelSize);
+    font.setWeight(weight);
+    return font;
+}
+
+} // namespace
+
+void Typography::loadFonts()
+{
+    QFont medium = callout();
+    medium.setWeight(QFont::Medium);
+    QFont demiBold = callout();
+    demiBold.setWeight(QFont::DemiBold);
+    for (const QFont &style : { body(), callout(), medium, demiBold, caption() }) {
+        static_cast<void>(QFontMetricsF(style).height()); // a font is loaded when it is asked
+    }
+}
+
+QFont Typography::title()
+{
+    return font(22);
+}
+
+QFont Typography::headline()
+{
+    return font(13, QFont::DemiBold);
+}
+
+QFont Typography::body()
+{
+    return font(13);
+}
+
+QFont Typography::callout()
+{
+    return font(12);
+}
+
+QFont Typography::caption()
+{
+    return font(11);
+}
+
+} // namespace torvi
