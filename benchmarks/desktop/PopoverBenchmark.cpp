@@ -112,9 +112,9 @@ QJsonObject jumping(PopoverStage &stage)
 QJsonObject measure(int projectCount)
 {
     PopoverStage stage(projectCount);
-    QJsonObject results{ { u"first"_s, stage.timeToShow() } };
+    static_cast<void>(stage.timeToShow());
     stage.settle();
-    results[u"memory"_s] = proportionalKilobytes();
+    QJsonObject results{ { u"memory"_s, proportionalKilobytes() } };
     const auto [alive, onScreen] = stage.delegates();
     results[u"alive"_s] = alive;
     results[u"onScreen"_s] = onScreen;

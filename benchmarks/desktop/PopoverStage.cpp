@@ -3,15 +3,6 @@
 
 #include "benchmarks/desktop/PopoverStage.h"
 
-#include "GCloudCLI/GCloudConfigReader.h"
-#include "GCloudStateManager/FavoritesStore.h"
-#include "GCloudStateManager/Preferences.h"
-#include "GCloudStateManager/RecentStore.h"
-#include "GCloudStateManager/ServiceAccountStore.h"
-#include "GCloudStateManager/SettingsStore.h"
-#include "benchmarks/SampleDirectory.h"
-#include "benchmarks/desktop/ListedProjects.h"
-
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -44,27 +35,16 @@ QQuickItem *below(const QQuickItem *item, const QString &name)
 } // namespace
 
 PopoverStage::PopoverStage(int projectCount)
-    : m_views({ m_clipboard, [](QWindow &window) { window.requestActivate(); },
+    : m_state(projectCount)
+    , m_views({ m_clipboard, [](QWindow &window) { window.requestActivate(); },
                 [](QWindow & /*window*/, const auto & /*setDark*/) {} })
 {
-    makeSampleDirectory(m_directory.path(), 5, 5);
-    const auto preferences = std::make_shared<Preferences>();
-    m_manager = std::make_unique<AuthStateManager>(
-        std::make_shared<ListedProjects>(QString::fromUtf8(sampleProjects(projectCount))),
-        std::make_shared<GCloudConfigReader>(m_directory.path()), nullptr,
-        std::make_shared<FavoritesStore>(preferences), std::make_shared<RecentStore>(preferences),
-        std::make_shared<ServiceAccountStore>(preferences),
-        std::make_shared<SettingsStore>(preferences));
-    m_manager->reload();
-    if (m_manager->projects().size() != projectCount) {
-        qFatal("the projects were not listed");
-    }
-    m_popover = m_views.makePopover(*m_manager, [] {});
+    m_popover = m_views.makePopover(manager(), [] {});
 }
 
 AuthStateManager &PopoverStage::manager() const
 {
-    return *m_manager;
+    return m_state.manager();
 }
 
 double PopoverStage::timeToShow()

@@ -3,13 +3,12 @@
 
 #pragma once
 
-#include "GCloudStateManager/AuthStateManager.h"
 #include "Torvi/Linux/SystemClipboard.h"
 #include "Torvi/Quick/QuickViewFactory.h"
+#include "benchmarks/desktop/SampleState.h"
 
 #include <QQuickItem>
 #include <QQuickView>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <memory>
@@ -41,8 +40,7 @@ public:
 private:
     void waitForFrame();
 
-    QTemporaryDir m_directory;
-    std::unique_ptr<AuthStateManager> m_manager;
+    SampleState m_state;
     SystemClipboard m_clipboard;
     QuickViewFactory m_views;
     std::unique_ptr<Popover> m_popover;
