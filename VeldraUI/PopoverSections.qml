@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-pragma ComponentBehavior: Bound
-
 import QtQuick
 
 import VeldraUI
@@ -21,12 +19,20 @@ Column {
     // In the order in which the arrow keys go through them.
     readonly property list<RowArea> rowAreas: [projectSwitcher.rows, accountSwitcher.rows,
                                                configurationSwitcher.rows, impersonation.rows]
+    // Until then nobody knows which rows are on screen.
+    property bool isLaidOut: false
+
     readonly property real innerWidth: width - leftPadding - rightPadding
 
     signal openManager()
 
     padding: 12
     spacing: 2
+
+    Component.onCompleted: {
+        forceLayout()
+        isLaidOut = true
+    }
 
     Keys.onUpPressed: focusRowsAbove(Window.activeFocusItem)
     Keys.onDownPressed: focusRowsBelow(Window.activeFocusItem)
@@ -49,16 +55,20 @@ Column {
         height: banner.height + 4
         visible: root.stateManager.hasError
 
-        ErrorBanner {
+        Loader {
             id: banner
 
-            objectName: "banner"
             width: parent.width
-            error: root.stateManager.errorMessage
-            retryable: true
+            active: root.stateManager.hasError
 
-            onDismiss: root.stateManager.dismissError()
-            onRetry: root.stateManager.reload()
+            sourceComponent: ErrorBanner {
+                objectName: "banner"
+                error: root.stateManager.errorMessage
+                retryable: true
+
+                onDismiss: root.stateManager.dismissError()
+                onRetry: root.stateManager.reload()
+            }
         }
     }
 
@@ -73,7 +83,7 @@ Column {
         width: root.innerWidth
         stateManager: root.stateManager
         viewportY: root.viewportY - y
-        viewportHeight: root.viewportHeight
+        viewportHeight: root.isLaidOut ? root.viewportHeight : 0
     }
 
     Divider {

@@ -122,6 +122,7 @@ void VisibleProjects::adoptGeometry()
 
 void VisibleProjects::showRows()
 {
+    m_itemCount = neededItems();
     const std::vector<int> wanted = wantedRows();
     std::vector<VisibleProject> next;
     next.reserve(wanted.size());
@@ -131,16 +132,28 @@ void VisibleProjects::showRows()
     change(std::move(next), itemsFor(wanted));
 }
 
-/// As many rows wherever the viewport is, so that none need be made while it moves.
-std::vector<int> VisibleProjects::wantedRows() const
+/// As many as the viewport shows of the rows where it begins above them, and then never fewer than
+/// before, so that none need be made while it moves.
+int VisibleProjects::neededItems() const
 {
     if (!m_source || m_rowHeight <= 0 || m_viewportHeight <= 0) {
+        return 0;
+    }
+    const auto fitting = [this](double height) {
+        return static_cast<int>(std::ceil(std::max(0.0, height) / (m_rowHeight + m_spacing))) + 2;
+    };
+    return std::clamp(m_itemCount, fitting(m_viewportHeight + std::min(0.0, m_viewportY)),
+                      fitting(m_viewportHeight));
+}
+
+std::vector<int> VisibleProjects::wantedRows() const
+{
+    if (m_itemCount == 0) {
         return {};
     }
     const int count = m_source->count();
-    const int most = static_cast<int>(std::ceil(m_viewportHeight / (m_rowHeight + m_spacing))) + 2;
-    const int first = std::clamp(m_layout.rowAt(m_viewportY), 0, std::max(0, count - most));
-    const int end = std::min(count, first + most);
+    const int first = std::clamp(m_layout.rowAt(m_viewportY), 0, std::max(0, count - m_itemCount));
+    const int end = std::min(count, first + m_itemCount);
     std::vector<int> wanted;
     if (m_currentRow != kGone && m_currentRow < first) {
         wanted.push_back(m_currentRow);

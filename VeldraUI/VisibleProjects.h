@@ -78,6 +78,7 @@ private:
     void adoptSource();
     void adoptGeometry();
     void showRows();
+    [[nodiscard]] int neededItems() const;
     [[nodiscard]] std::vector<int> wantedRows() const;
     [[nodiscard]] std::vector<int> itemsFor(const std::vector<int> &wanted) const;
     void followInsertion(int first, int last);
@@ -94,6 +95,7 @@ private:
     double m_viewportY = 0;
     double m_viewportHeight = 0;
     double m_height = 0;
+    int m_itemCount = 0; ///< besides that of the keyboard's place
     int m_revision = 0;
     int m_currentRow = kGone;
     int m_reportedCurrentRow = kGone;

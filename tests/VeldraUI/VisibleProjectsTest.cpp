@@ -112,6 +112,30 @@ TEST_F(VisibleProjectsTest, TheNumberOfItemsIsTheSameEverywhere)
     }
 }
 
+TEST_F(VisibleProjectsTest, AViewportThatBeginsAboveTheRowsHasItemsForItsRest)
+{
+    visible.setProperty("viewportHeight", 0.0);
+    scrollTo(-50);
+    visible.setProperty("viewportHeight", 100.0);
+
+    listNumbered(10'000);
+    EXPECT_EQ(rows(), range(0, 3));
+
+    scrollTo(0);
+    EXPECT_EQ(rows(), range(0, 5));
+    scrollTo(-50);
+    EXPECT_EQ(rows(), range(0, 5)) << "once made they are kept";
+}
+
+TEST_F(VisibleProjectsTest, ALowerViewportHasFewerItems)
+{
+    listNumbered(10'000);
+
+    visible.setProperty("viewportHeight", 50.0);
+
+    EXPECT_EQ(rows(), range(0, 3));
+}
+
 TEST_F(VisibleProjectsTest, WithoutAViewportOrHeightsThereAreNoItems)
 {
     listNumbered(3);

@@ -83,13 +83,18 @@ Item {
         }
 
         // What stands in the scrolling area, from top to bottom.
+        // The section is the item itself, or the first one inside it that has a name.
+        function nameOf(item: Item): string {
+            return item.objectName || nameOf(item.children[0])
+        }
+
         function order(): var {
             const names = []
             const children = find("sections").children
             for (let index = 0; index < children.length; ++index) {
                 const child = children[index]
                 if (child.visible)
-                    names.push(child instanceof Divider ? "-" : child.objectName || child.children[0].objectName)
+                    names.push(child instanceof Divider ? "-" : nameOf(child))
             }
             return names
         }
