@@ -25,14 +25,16 @@ Item {
         anchors.centerIn: parent
         spacing: root.spacing
 
-        ReplacingSymbol {
-            id: symbol
-
+        Loader {
             anchors.verticalCenter: parent.verticalCenter
-            visible: root.symbolName !== ""
-            name: root.symbolName
-            size: root.textStyle.pixelSize
-            color: root.color
+            active: root.symbolName !== ""
+            visible: active
+
+            sourceComponent: ReplacingSymbol {
+                name: root.symbolName
+                size: root.textStyle.pixelSize
+                color: root.color
+            }
         }
 
         Text {

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Torvi developers
 // SPDX-License-Identifier: MIT
 
-pragma ComponentBehavior: Bound
-
 import QtQuick
 
 import VeldraUI.Style
@@ -15,16 +13,20 @@ Item {
     property string name: ""
     property real size: Typography.callout.pixelSize
     property color color: Theme.colors.primary
+    property string previousName: ""
+    property string shownName: ""
 
     implicitWidth: current.side
     implicitHeight: current.side
 
     onNameChanged: {
-        if (previous.pending !== "" && visible && name !== "") {
-            previous.name = previous.pending
-            replacement.restart()
+        const isSeen = shownName !== "" && visible && name !== ""
+        previousName = shownName
+        shownName = name
+        if (isSeen) {
+            motion.active = true
+            motion.item.restart()
         }
-        previous.pending = name
     }
 
     Symbol {
@@ -37,26 +39,39 @@ Item {
         color: root.color
     }
 
-    Symbol {
-        id: previous
+    // Most symbols never change.
+    Loader {
+        id: motion
 
-        property string pending: ""
+        anchors.fill: parent
+        active: false
 
-        objectName: "previous"
-        anchors.centerIn: parent
-        opacity: 0
-        visible: opacity > 0
-        size: root.size
-        color: root.color
-    }
+        sourceComponent: Item {
+            Symbol {
+                id: previous
 
-    ParallelAnimation {
-        id: replacement
+                objectName: "previous"
+                anchors.centerIn: parent
+                opacity: 0
+                visible: opacity > 0
+                name: root.previousName
+                size: root.size
+                color: root.color
+            }
 
-        objectName: "replacing"
-        NumberAnimation { target: previous; property: "opacity"; from: 1; to: 0; duration: 120 }
-        NumberAnimation { target: previous; property: "scale"; from: 1; to: 0.5; duration: 120 }
-        NumberAnimation { target: current; property: "opacity"; from: 0; to: 1; duration: 200 }
-        NumberAnimation { target: current; property: "scale"; from: 0.5; to: 1; duration: 200; easing.type: Easing.OutBack }
+            ParallelAnimation {
+                id: replacement
+
+                objectName: "replacing"
+                NumberAnimation { target: previous; property: "opacity"; from: 1; to: 0; duration: 120 }
+                NumberAnimation { target: previous; property: "scale"; from: 1; to: 0.5; duration: 120 }
+                NumberAnimation { target: current; property: "opacity"; from: 0; to: 1; duration: 200 }
+                NumberAnimation { target: current; property: "scale"; from: 0.5; to: 1; duration: 200; easing.type: Easing.OutBack }
+            }
+
+            function restart() {
+                replacement.restart()
+            }
+        }
     }
 }
