@@ -5,6 +5,8 @@
 
 #include <QFontMetricsF>
 
+using namespace Qt::StringLiterals;
+
 namespace torvi {
 
 namespace {
@@ -25,8 +27,9 @@ void Typography::loadFonts()
     medium.setWeight(QFont::Medium);
     QFont demiBold = callout();
     demiBold.setWeight(QFont::DemiBold);
+    const QString usual = u"abcdefghijklmnopqrstuvwxyz ABCDEFGHIJKLMNOPQRSTUVWXYZ 0123456789-.@"_s;
     for (const QFont &style : { body(), callout(), medium, demiBold, caption() }) {
-        static_cast<void>(QFontMetricsF(style).height()); // a font is loaded when it is asked
+        static_cast<void>(QFontMetricsF(style).horizontalAdvance(usual)); // loads what it measures
     }
 }
 

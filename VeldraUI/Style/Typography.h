@@ -26,7 +26,8 @@ class Typography final : public QObject
 public:
     using QObject::QObject;
 
-    /// Has the fonts of most texts ready, which the first of them would wait for otherwise.
+    /// Has the fonts and usual letters of most texts ready, which the first of them would wait for
+    /// otherwise.
     static void loadFonts();
 
     [[nodiscard]] static QFont title();
