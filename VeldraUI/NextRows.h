@@ -8,6 +8,7 @@
 #include <QHash>
 
 #include <functional>
+#include <iterator>
 #include <vector>
 
 namespace torvi {
@@ -18,6 +19,9 @@ template <typename Records, typename NextRecords, typename Identity>
 [[nodiscard]] std::vector<int> nextRowsByIdentity(const Records &records, const NextRecords &next,
                                                   Identity identity)
 {
+    if (std::empty(records)) {
+        return {}; // a list's first content: nothing to find in it
+    }
     QMultiHash<QString, int> places;
     places.reserve(static_cast<qsizetype>(next.size()));
     for (int row = static_cast<int>(next.size()); row-- > 0;) {

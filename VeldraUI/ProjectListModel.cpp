@@ -238,9 +238,6 @@ void ProjectListModel::adoptProjects()
 /// Where each project stands in `next`, or kGone.
 std::vector<int> ProjectListModel::placesIn(const QList<Project> &next) const
 {
-    if (m_projects.isEmpty()) {
-        return {};
-    }
     if (std::ranges::equal(m_projects, next, {}, &Project::id, &Project::id)) {
         return identity(next.size());
     }

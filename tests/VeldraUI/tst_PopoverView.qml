@@ -137,6 +137,19 @@ Item {
             compare(gapBelow(find("activeContext"), children[2]), 4 + 2)
         }
 
+        function test_rowsBelowTheScreenAreNotMadeAtFirst() {
+            const ids = []
+            for (let number = 0; number < 100; ++number)
+                ids.push("project-" + number)
+            world.list(ids)
+            open()
+
+            const made = Array.from(find("projects/rows").children).filter(child => child.rowY !== undefined)
+            const below = made.filter(child => child.mapToItem(find("scrollArea"), 0, 0).y >= find("scrollArea").height)
+            verify(made.length > 5)
+            verify(below.length <= 2)
+        }
+
         function test_theScrollIndicatorIsShownWhenThereIsMoreThanFits() {
             world.listNumbered(40)
             open()
