@@ -13,6 +13,10 @@ T.TextField {
 
     property font textStyle: Typography.body
     property bool framed: true
+    // As constants that the compiler knows: for an expression with Qt's name in it, the engine lists
+    // all that Qt names, at the first field.
+    readonly property int noAutoUppercase: Qt.ImhNoAutoUppercase
+    readonly property int noPredictiveText: Qt.ImhNoPredictiveText
     readonly property bool focusedByKeyboard: activeFocus
         && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason)
 
@@ -32,7 +36,7 @@ T.TextField {
     selectByMouse: true
     // Shows its beginning until someone writes in it.
     autoScroll: activeFocus
-    inputMethodHints: Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
+    inputMethodHints: noAutoUppercase | noPredictiveText
 
     background: Rectangle {
         visible: root.framed
