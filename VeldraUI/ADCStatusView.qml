@@ -33,7 +33,7 @@ Column {
             x: 8
             y: 4
             width: parent.width - 16
-            height: Math.max(symbol.height, texts.height, root.isConfigured ? badge.height : 0)
+            height: Math.max(symbol.height, texts.height, badge.height)
 
             Item {
                 id: symbolFrame
@@ -74,16 +74,20 @@ Column {
                 }
             }
 
-            StatusBadge {
+            Loader {
                 id: badge
 
-                objectName: "badge"
                 anchors.verticalCenter: parent.verticalCenter
                 x: parent.width - width
-                visible: root.isConfigured
-                text: qsTr("configured")
-                color: Theme.colors.green
-                icon: "checkmark"
+                active: root.isConfigured
+                visible: active
+
+                sourceComponent: StatusBadge {
+                    objectName: "badge"
+                    text: qsTr("configured")
+                    color: Theme.colors.green
+                    icon: "checkmark"
+                }
             }
         }
     }

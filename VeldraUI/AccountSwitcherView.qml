@@ -43,10 +43,11 @@ Column {
             place: index
             current: isActive
             text: email
-            details: [isServiceAccount ? qsTr("service account") : "", isActive ? qsTr("active") : ""]
-                .filter(detail => detail !== "").join(", ")
+            details: (isServiceAccount ? qsTr("service account") : "") + (isServiceAccount && isActive ? ", " : "")
+                     + (isActive ? qsTr("active") : "")
 
             contentItem: RowContent {
+                width: row.availableWidth
                 symbolName: row.isServiceAccount ? "gearshape.fill" : "person.fill"
                 text: row.email
                 elide: Text.ElideMiddle

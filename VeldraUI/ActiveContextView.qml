@@ -61,14 +61,18 @@ Rectangle {
                 value: root.stateManager.hasActiveAccount ? root.stateManager.activeAccountEmail : qsTr("None")
             }
 
-            InformationRow {
+            Loader {
                 objectName: "impersonating"
                 width: parent.width
-                visible: root.stateManager.isImpersonating
-                symbolName: "bolt.fill"
-                label: qsTr("Impersonating")
-                value: root.stateManager.impersonatedEmail
-                highlighted: true
+                active: root.stateManager.isImpersonating
+                visible: active
+
+                sourceComponent: InformationRow {
+                    symbolName: "bolt.fill"
+                    label: qsTr("Impersonating")
+                    value: root.stateManager.impersonatedEmail
+                    highlighted: true
+                }
             }
 
             InformationRow {
@@ -102,11 +106,15 @@ Rectangle {
                 onClicked: root.copyToken()
             }
 
-            ProgressIndicator {
-                objectName: "progress"
+            Loader {
                 anchors.verticalCenter: parent.verticalCenter
-                visible: root.isCopyingToken
-                small: true
+                active: root.isCopyingToken
+                visible: active
+
+                sourceComponent: ProgressIndicator {
+                    objectName: "progress"
+                    small: true
+                }
             }
         }
     }

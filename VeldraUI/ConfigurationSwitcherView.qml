@@ -46,10 +46,11 @@ Column {
             place: index
             current: isActive
             text: name
-            details: [hasProject ? projectId : "", isActive ? qsTr("active") : ""]
-                .filter(detail => detail !== "").join(", ")
+            details: (hasProject ? projectId : "") + (hasProject && isActive ? ", " : "")
+                     + (isActive ? qsTr("active") : "")
 
             contentItem: RowContent {
+                width: row.availableWidth
                 text: row.name
                 hasSubtitle: row.hasProject
                 subtitle: row.projectId

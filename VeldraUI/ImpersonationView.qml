@@ -36,37 +36,11 @@ Column {
         color: Theme.colors.secondary
     }
 
-    Column {
+    ActiveImpersonations {
         objectName: "active"
         width: parent.width
         visible: root.isAnyActive
-        leftPadding: 8
-        rightPadding: 8
-        topPadding: 4
-        bottomPadding: 4
-        spacing: 4
-
-        ActiveImpersonation {
-            objectName: "cli"
-            width: parent.width - 16
-            visible: root.stateManager.isImpersonating
-            symbolName: "terminal.fill"
-            email: root.stateManager.impersonatedEmail
-            kind: qsTr("CLI")
-
-            onClear: root.stateManager.clearImpersonation(AuthState.CLIOnly)
-        }
-
-        ActiveImpersonation {
-            objectName: "adc"
-            width: parent.width - 16
-            visible: root.stateManager.adc.isImpersonating
-            symbolName: "key.fill"
-            email: root.stateManager.adc.impersonatedEmail
-            kind: qsTr("ADC")
-
-            onClear: root.stateManager.clearImpersonation(AuthState.ADCOnly)
-        }
+        stateManager: root.stateManager
     }
 
     Item {
@@ -134,6 +108,7 @@ Column {
             details: title === email ? "" : email
 
             contentItem: RowContent {
+                width: row.availableWidth
                 text: row.title
                 elide: Text.ElideMiddle
                 revealed: row.visualFocus

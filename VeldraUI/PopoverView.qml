@@ -114,7 +114,7 @@ FocusScope {
     // So that it opens without a menu, and without a mark on any control: a scope alone would hand the
     // keyboard on to what had it last.
     function forget() {
-        sections.projects.menu.close()
+        sections.projects.closeMenu()
         scrollArea.focus = true
         scrollArea.focus = false
         forceActiveFocus()

@@ -6,7 +6,8 @@ import QtQuick
 import VeldraUI.Style
 
 // The row of one project: a star when it is pinned, its id, and the mark of the active one. The
-// display name is in the tool tip.
+// display name is in the tool tip, unless its menu is shown. A secondary click, the menu key and
+// Shift+F10 ask for the menu: menuRequested(position).
 RowButton {
     id: root
 
@@ -17,18 +18,19 @@ RowButton {
     property int position: 0
     property int setSize: 0
 
-    readonly property string hint: [idText.truncated ? projectId : "", name === projectId ? "" : name]
-        .filter(line => line !== "").join("\n")
+    property bool isMenuShown: false
     readonly property bool toolTipShown: toolTip.active
     // The project that the row stood for when it was pressed; it may stand for another by now.
     property string pressedId: ""
 
     signal chosen()
+    signal menuRequested(point position)
 
     text: projectId
     current: isActive
 
     contentItem: Item {
+        width: root.availableWidth // at once, or the text would be laid out for no width first
         // Also of a row that is not on screen.
         implicitHeight: Math.max(idText.height, star.height, badge.height)
 
@@ -78,21 +80,38 @@ RowButton {
             chosen()
     }
 
-    Accessible.description: [name === projectId ? "" : name, isPinned ? qsTr("pinned") : "",
-                             isActive ? qsTr("active") : "", qsTr("%1 of %2").arg(position).arg(setSize)]
-        .filter(detail => detail !== "").join(", ")
+    Keys.onMenuPressed: requestMenu()
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier) {
+            event.accepted = true
+            requestMenu()
+        }
+    }
+
+    Accessible.description: (name === projectId ? "" : name + ", ") + (isPinned ? qsTr("pinned") + ", " : "")
+                            + (isActive ? qsTr("active") + ", " : "")
+                            + qsTr("%1 of %2").arg(position).arg(setSize)
     Accessible.focusable: true
 
-    Loader {
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => root.menuRequested(eventPoint.position)
+    }
+
+    HelpTip {
         id: toolTip
 
-        active: (root.hovered || root.visualFocus) && root.hint !== "" && !(root.menu && root.menu.visible)
+        objectName: "toolTip"
+        help: shown ? root.hint() : ""
+        shown: (root.hovered || root.visualFocus) && !root.isMenuShown
+    }
 
-        sourceComponent: ToolTip {
-            objectName: "toolTip"
-            parent: root
-            text: root.hint
-            visible: true
-        }
+    function hint(): string {
+        const lines = [idText.truncated ? projectId : "", name === projectId ? "" : name]
+        return lines.filter(line => line !== "").join("\n")
+    }
+
+    function requestMenu() {
+        menuRequested(Qt.point(leftPadding, height))
     }
 }

@@ -17,7 +17,9 @@ RowArea {
     property real viewportY: 0
     property real viewportHeight: 0
 
-    readonly property ContextMenu menu: pinMenu
+    // Made when it is first asked for.
+    readonly property var menu: menuLoader.item
+    readonly property bool isMenuShown: menu !== null && menu.visible
 
     signal chosen(string projectId)
     signal pinToggled(string projectId)
@@ -85,7 +87,7 @@ RowArea {
                 width: item.width
                 height: item.isActive ? visibleRows.activeRowHeight : visibleRows.rowHeight
                 focusPolicy: Qt.ClickFocus
-                menu: pinMenu
+                isMenuShown: root.isMenuShown
                 projectId: item.projectId
                 name: item.name
                 isPinned: item.isPinned
@@ -95,34 +97,13 @@ RowArea {
 
                 onActiveFocusChanged: if (activeFocus) root.enter(button, item.row)
                 onChosen: root.chosen(projectId)
-                onMenuRequested: pinMenu.ask(projectId, isPinned, visualFocus)
+                onMenuRequested: position => root.openMenu(button, position)
             }
         }
     }
 
-    ContextMenu {
-        id: pinMenu
-
-        property string projectId: ""
-        property bool isPinned: false
-        property bool byKeyboard: false
-
-        objectName: "pinMenu"
-
-        onClosed: if (byKeyboard) root.focusRow(root.currentRow)
-
-        MenuEntry {
-            objectName: "pinEntry"
-            text: pinMenu.isPinned ? qsTr("Unpin") : qsTr("Pin")
-
-            onTriggered: root.pinToggled(pinMenu.projectId)
-        }
-
-        function ask(id: string, pinned: bool, keyboard: bool) {
-            projectId = id
-            isPinned = pinned
-            byKeyboard = keyboard
-        }
+    Loader {
+        id: menuLoader
     }
 
     // Never shown: their heights are those of all others.
@@ -147,5 +128,11 @@ RowArea {
         visible: false
         text: "-"
         Accessible.ignored: true
+    }
+
+    function openMenu(row: ProjectRow, position: point) {
+        if (!menu)
+            menuLoader.setSource("ProjectMenu.qml", { rows: root })
+        menu.openFor(row, position)
     }
 }

@@ -17,7 +17,6 @@ Column {
     property real viewportHeight: 750
 
     readonly property RowArea rows: projectRows
-    readonly property ContextMenu menu: projectRows.menu
     readonly property bool isFilterOffered: projects.isFilterOffered
 
     spacing: 4
@@ -77,6 +76,11 @@ Column {
         searchText = text
         filter.field.cursorPosition = text.length
         return true
+    }
+
+    function closeMenu() {
+        if (projectRows.menu)
+            projectRows.menu.close()
     }
 
     function focusFilter(): bool {

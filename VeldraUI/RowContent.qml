@@ -20,21 +20,20 @@ Item {
     property bool revealed: false
 
     readonly property bool hasSymbol: symbolName !== ""
+    readonly property real symbolFrame: 14
 
-    implicitHeight: Math.max(hasSymbol ? symbol.height : 0, texts.height, badge.height)
+    // What most rows of a list do not have is not made.
+    implicitHeight: Math.max(symbol.height, texts.height, badge.height)
 
-    Item {
-        id: symbolFrame
+    Loader {
+        id: symbol
 
-        width: 14
-        height: parent.height
-        visible: root.hasSymbol
+        anchors.verticalCenter: parent.verticalCenter
+        x: (symbolFrame - width) / 2
+        active: root.hasSymbol
 
-        Symbol {
-            id: symbol
-
+        sourceComponent: Symbol {
             objectName: "symbol"
-            anchors.centerIn: parent
             name: root.symbolName
             color: Theme.colors.secondary
         }
@@ -44,7 +43,7 @@ Item {
         id: texts
 
         anchors.verticalCenter: parent.verticalCenter
-        x: root.hasSymbol ? symbolFrame.width + 6 : 0
+        x: root.hasSymbol ? symbolFrame + 6 : 0
         width: (root.active ? badge.x - 12 : root.width) - x
         spacing: 1
 
@@ -57,14 +56,18 @@ Item {
             Accessible.ignored: true
         }
 
-        ElidedText {
-            objectName: "subtitle"
+        Loader {
             width: parent.width
-            visible: root.hasSubtitle
-            text: root.subtitle
-            textStyle: Typography.caption
-            color: Theme.colors.secondary
-            Accessible.ignored: true
+            active: root.hasSubtitle
+            visible: active
+
+            sourceComponent: ElidedText {
+                objectName: "subtitle"
+                text: root.subtitle
+                textStyle: Typography.caption
+                color: Theme.colors.secondary
+                Accessible.ignored: true
+            }
         }
     }
 

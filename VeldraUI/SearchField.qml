@@ -58,23 +58,29 @@ Rectangle {
             onTextEdited: root.edited(text)
         }
 
-        PlainButton {
+        Loader {
             id: clearButton
 
             objectName: "clearButton"
             anchors.verticalCenter: parent.verticalCenter
             x: row.width - width
-            visible: field.length > 0
-            symbolName: "xmark.circle.fill"
-            foreground: Theme.colors.secondary
-            Accessible.name: qsTr("Clear")
+            active: field.length > 0
+            visible: active
 
-            onClicked: {
-                field.clear()
-                // The button goes, and would take the keyboard with it.
-                field.forceActiveFocus()
-                root.edited("")
+            sourceComponent: PlainButton {
+                symbolName: "xmark.circle.fill"
+                foreground: Theme.colors.secondary
+                Accessible.name: qsTr("Clear")
+
+                onClicked: root.clear()
             }
         }
+    }
+
+    function clear() {
+        // First, for the button goes then, and would take the keyboard with it.
+        field.forceActiveFocus()
+        field.clear()
+        edited("")
     }
 }

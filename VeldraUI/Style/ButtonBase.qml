@@ -43,7 +43,7 @@ T.Button {
     Accessible.role: Accessible.Button
     Accessible.name: text !== "" ? text : help
     // There is no accessible state for what is disabled.
-    Accessible.description: [help, enabled ? "" : qsTr("unavailable")].filter(part => part !== "").join(", ")
+    Accessible.description: enabled ? help : (help === "" ? "" : help + ", ") + qsTr("unavailable")
     Accessible.onPressAction: if (enabled) clicked()
 
     HelpTip {

@@ -10,7 +10,7 @@ StyledText {
     id: root
 
     property bool revealed: false
-    readonly property bool toolTipShown: toolTip.visibleNow
+    readonly property bool toolTipShown: toolTip.item ? (toolTip.item as HelpTip).visibleNow : false
 
     // Rows stand in one line, whatever their script.
     horizontalAlignment: Text.AlignLeft
@@ -18,14 +18,20 @@ StyledText {
     maximumLineCount: 1
     wrapMode: Text.NoWrap
 
-    HoverHandler {
-        id: hover
-    }
-
-    HelpTip {
+    // Most texts are not shortened.
+    Loader {
         id: toolTip
 
-        help: root.text
-        shown: (hover.hovered || root.revealed) && root.truncated
+        anchors.fill: parent
+        active: root.truncated
+
+        sourceComponent: HelpTip {
+            help: root.text
+            shown: hover.hovered || root.revealed
+
+            HoverHandler {
+                id: hover
+            }
+        }
     }
 }

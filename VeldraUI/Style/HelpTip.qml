@@ -13,7 +13,7 @@ Loader {
     readonly property bool visibleNow: item ? (item as ToolTip).visible : false
 
     active: shown && help !== "" && visible
-    source: "ToolTip.qml"
+    source: Qt.resolvedUrl("ToolTip.qml") // beside this file, whoever uses it
 
     onLoaded: {
         const tip = item as ToolTip

@@ -459,8 +459,10 @@ Item {
             const rows = find("projects/rows", window.popover)
             rows.focusRow(0)
             tryVerify(() => rows.activeFocus)
-            rows.menu.ask("p-1", false, data.keyboard)
-            rows.menu.popup(find("projects/rows/p-1", window.popover), 5, 5)
+            if (data.keyboard)
+                keyClick(Qt.Key_Menu)
+            else
+                mouseClick(find("projects/rows/p-1", window.popover), 5, 5, Qt.RightButton)
             tryVerify(() => rows.menu.opened)
             window.hide()
             window.show()

@@ -271,6 +271,19 @@ Item {
             compare(world.commands, 1, "only the listing")
         }
 
+        function test_theMenuOpensWhereTheClickWasAndNothingIsSwitched() {
+            world.list(["a", "b"])
+            show()
+            compare(menu(), null, "not made before it is asked for")
+            mouseClick(find("rows/b"), 100, 10, Qt.RightButton)
+            tryVerify(() => menu().opened)
+
+            const place = menu().contentItem.mapToItem(find("rows/b"), 0, 0)
+            compare(place.x, 100 + menu().padding)
+            compare(place.y, 10 + menu().padding)
+            compare(world.commands, 1, "only the listing")
+        }
+
         function menu(): var {
             return find("rows").menu
         }
@@ -372,7 +385,7 @@ Item {
         }
 
         function toolTipOf(id: string): var {
-            return find("rows/" + id).hint
+            return find("rows/" + id).hint()
         }
 
         function test_toolTipsTellTheNameAndWhatIsShortened() {
@@ -535,13 +548,13 @@ Item {
             show()
             mouseMove(find("rows/short"))
 
-            tryVerify(() => toolTip("short") !== null && toolTip("short").opened)
+            tryVerify(() => toolTip("short") && toolTip("short").opened)
             compare(toolTip("short").text, "Short one")
             compare(toolTip("short").contentItem.text, "Short one")
         }
 
         function toolTip(id: string): var {
-            return findChild(find("rows/" + id), "toolTip")
+            return find("rows/" + id + "/toolTip").item
         }
 
         function test_severalTapsStartSeveralSwitches() {

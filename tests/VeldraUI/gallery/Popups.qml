@@ -42,7 +42,8 @@ Item {
         width: parent.width
         text: "web-production"
         contentItem: StyledText { text: "web-production" }
-        menu: ContextMenu {
+
+        ContextMenu {
             id: menu
             MenuEntry { text: "Pin"; symbolName: "star" }
             MenuEntry { text: "Unpin" }
