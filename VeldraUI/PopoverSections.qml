@@ -7,7 +7,8 @@ import VeldraUI
 import VeldraUI.Style
 
 // What the popover scrolls: the active context, the banner of the last error, and the sections.
-// The part that is on screen is told by viewportY and viewportHeight. openManager().
+// The part that is on screen is told by viewportY and viewportHeight. What is below it at first is
+// made when the first frame is on screen. openManager().
 Column {
     id: root
 
@@ -16,9 +17,7 @@ Column {
     property real viewportHeight: 750
 
     readonly property ProjectSwitcherView projects: projectSwitcher
-    // In the order in which the arrow keys go through them.
-    readonly property list<RowArea> rowAreas: [projectSwitcher.rows, accountSwitcher.rows,
-                                               configurationSwitcher.rows, impersonation.rows]
+    readonly property list<PopoverSection> sectionsBelow: [accounts, configurations, impersonation, adcStatus]
     // Until then nobody knows which rows are on screen.
     property bool isLaidOut: false
 
@@ -32,6 +31,7 @@ Column {
     Component.onCompleted: {
         forceLayout()
         isLaidOut = true
+        makeSections(viewportHeight)
     }
 
     Keys.onUpPressed: focusRowsAbove(Window.activeFocusItem)
@@ -86,52 +86,71 @@ Column {
         viewportHeight: root.isLaidOut ? root.viewportHeight : 0
     }
 
-    Divider {
-        width: root.innerWidth
-    }
+    PopoverSection {
+        id: accounts
 
-    AccountSwitcherView {
-        id: accountSwitcher
-
-        objectName: "accounts"
         width: root.innerWidth
         stateManager: root.stateManager
+        name: "accounts"
+        view: "AccountSwitcherView.qml"
     }
 
-    Divider {
-        width: root.innerWidth
-    }
+    PopoverSection {
+        id: configurations
 
-    ConfigurationSwitcherView {
-        id: configurationSwitcher
-
-        objectName: "configurations"
         width: root.innerWidth
         stateManager: root.stateManager
-
-        onOpenManager: root.openManager()
+        name: "configurations"
+        view: "ConfigurationSwitcherView.qml"
     }
 
-    Divider {
-        width: root.innerWidth
+    Connections {
+        target: configurations.item
+
+        function onOpenManager() {
+            root.openManager()
+        }
     }
 
-    ImpersonationView {
+    PopoverSection {
         id: impersonation
 
-        objectName: "impersonation"
         width: root.innerWidth
         stateManager: root.stateManager
+        name: "impersonation"
+        view: "ImpersonationView.qml"
     }
 
-    Divider {
-        width: root.innerWidth
-    }
+    PopoverSection {
+        id: adcStatus
 
-    ADCStatusView {
-        objectName: "adcStatus"
         width: root.innerWidth
         stateManager: root.stateManager
+        name: "adcStatus"
+        view: "ADCStatusView.qml"
+    }
+
+    Connections {
+        target: root.Window.window
+        enabled: !adcStatus.item
+
+        function onFrameSwapped() {
+            Qt.callLater(root.makeSections, Infinity)
+        }
+    }
+
+    // Those that begin above `bottom`, downwards from the first.
+    function makeSections(bottom: real) {
+        for (let index = 0; index < sectionsBelow.length && sectionsBelow[index].y < bottom; ++index) {
+            sectionsBelow[index].make()
+            forceLayout()
+        }
+    }
+
+    // Those that are there, in the order in which the arrow keys go through them.
+    function rowAreas(): var {
+        return [projectSwitcher, accounts.item, configurations.item, impersonation.item]
+            .map(section => section ? section.rows : null).filter(rows => rows && rows.count > 0)
     }
 
     function topOf(item: Item): real {
@@ -141,27 +160,21 @@ Column {
     // Puts the keyboard on the first row below `item`, on the very first without one.
     function focusRowsBelow(item: Item): bool {
         const bottom = item ? topOf(item) + item.height : 0
-        for (let index = 0; index < rowAreas.length; ++index) {
-            const rows = rowAreas[index]
-            if (rows.count > 0 && topOf(rows) >= bottom) {
-                rows.focusRow(0)
-                return true
-            }
-        }
-        return false
+        const below = rowAreas().find(rows => topOf(rows) >= bottom)
+        if (!below)
+            return false
+        below.focusRow(0)
+        return true
     }
 
     // Puts the keyboard on the last row above `item`, on the very last without one. Above all rows
     // there is the filter.
     function focusRowsAbove(item: Item): bool {
         const top = item ? topOf(item) : height
-        for (let index = rowAreas.length - 1; index >= 0; --index) {
-            const rows = rowAreas[index]
-            if (rows.count > 0 && topOf(rows) + rows.height <= top) {
-                rows.focusRow(rows.count - 1)
-                return true
-            }
-        }
-        return topOf(projectSwitcher.rows) <= top && projectSwitcher.focusFilter()
+        const above = rowAreas().reverse().find(rows => topOf(rows) + rows.height <= top)
+        if (!above)
+            return topOf(projectSwitcher.rows) <= top && projectSwitcher.focusFilter()
+        above.focusRow(above.count - 1)
+        return true
     }
 }

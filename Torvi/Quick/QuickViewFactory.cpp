@@ -12,10 +12,13 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLibrary>
 #include <QQmlComponent>
 #include <QQuickItem>
 
+#include <memory>
 #include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -23,18 +26,24 @@ namespace torvi {
 
 namespace {
 
-/// Loads a view of VeldraUI, with a state of its own. The engine reads the types in a thread of its
-/// own; what the view needs besides is done meanwhile.
-void load(QQuickView &window, const QString &view, AuthStateManager &stateManager,
-          Clipboard &clipboard)
+/// Loads a view of VeldraUI, with a state of its own, and the `parts` that it will make of their
+/// files. The engine reads the types in a thread of its own; what the view needs besides is done
+/// meanwhile, and the parts are read while it is made.
+void load(QQuickView &window, const QString &view, const QStringList &parts,
+          AuthStateManager &stateManager, Clipboard &clipboard)
 {
-    const QUrl source(u"qrc:/qt/qml/VeldraUI/%1.qml"_s.arg(view));
-    QQmlComponent types(window.engine());
-    types.loadUrl(source, QQmlComponent::Asynchronous);
+    const auto file
+        = [](const QString &name) { return QUrl(u"qrc:/qt/qml/VeldraUI/%1.qml"_s.arg(name)); };
+    std::vector<std::unique_ptr<QQmlComponent>> types;
+    for (const QString &name : QStringList(view) + parts) {
+        types.push_back(std::make_unique<QQmlComponent>(window.engine()));
+        types.back()->loadUrl(file(name), QQmlComponent::Asynchronous);
+    }
+    QLibrary(u"Qt6QuickTemplates2"_s, u"6"_s).load(); // the thread will want it in a moment
     Typography::loadFonts();
     auto *state = new AuthState(stateManager, clipboard, {}, &window);
     window.setInitialProperties({ { u"stateManager"_s, QVariant::fromValue(state) } });
-    window.setSource(source);
+    window.setSource(file(view));
 }
 
 } // namespace
@@ -71,7 +80,10 @@ QuickViewFactory::makePopoverWindow(AuthStateManager &stateManager,
                                     const std::function<void()> &onOpenManager)
 {
     auto window = std::make_unique<PopoverWindow>(engine());
-    load(*window, u"PopoverView"_s, stateManager, m_surroundings.clipboard);
+    load(*window, u"PopoverView"_s,
+         { u"AccountSwitcherView"_s, u"ConfigurationSwitcherView"_s, u"ImpersonationView"_s,
+           u"ADCStatusView"_s },
+         stateManager, m_surroundings.clipboard);
     // A view's own signals are known by their names only.
     const QQuickItem *view = window->rootObject();
     QObject::connect(view, SIGNAL(close()), window.get(), SLOT(hide()));
@@ -88,7 +100,7 @@ QuickViewFactory::makeManagerWindow(AuthStateManager &stateManager,
     const auto makeWindow = [this, &stateManager](std::function<void()> onClose) {
         auto window = std::make_unique<ManagerWindow>(engine(), std::move(onClose));
         window->setIcon(QIcon(u":/torvi/com.veldra.Torvi.svg"_s));
-        load(*window, u"ManagerWindowView"_s, stateManager, m_surroundings.clipboard);
+        load(*window, u"ManagerWindowView"_s, {}, stateManager, m_surroundings.clipboard);
         m_surroundings.followColorScheme(
             *window, [shown = window.get()](bool isDark) { Theme::of(*shown).setDark(isDark); });
         return window;

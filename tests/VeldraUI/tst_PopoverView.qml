@@ -83,20 +83,23 @@ Item {
         }
 
         // What stands in the scrolling area, from top to bottom.
-        // The section is the item itself, or the first one inside it that has a name.
-        function nameOf(item: Item): string {
-            return item.objectName || nameOf(item.children[0])
+        function order(): var {
+            const parts = []
+            collectParts(find("sections"), parts)
+            return parts.map(part => part instanceof Divider ? "-" : part.objectName)
         }
 
-        function order(): var {
-            const names = []
-            const children = find("sections").children
-            for (let index = 0; index < children.length; ++index) {
-                const child = children[index]
-                if (child.visible)
-                    names.push(child instanceof Divider ? "-" : nameOf(child))
+        // The hairlines, and the outermost items that have a name.
+        function collectParts(item: Item, parts: var) {
+            for (let index = 0; index < item.children.length; ++index) {
+                const child = item.children[index]
+                if (child instanceof Divider || child.objectName !== "") {
+                    if (child.visible)
+                        parts.push(child)
+                } else {
+                    collectParts(child, parts)
+                }
             }
-            return names
         }
 
         function test_theSectionsStandInTheirOrder() {
@@ -229,6 +232,7 @@ Item {
             window.show()
             window.requestActivate()
             world.settle()
+            tryVerify(() => find(data.from, window.popover))
             const control = find(data.from, window.popover)
             control.forceActiveFocus(Qt.TabFocusReason)
             tryVerify(() => control.activeFocus)
@@ -383,6 +387,26 @@ Item {
                 area.contentY = part * (area.contentHeight - area.height)
                 verify(repeater.count <= 2 * onScreen, repeater.count)
             }
+        }
+
+        function test_whatIsBelowTheScreenIsMadeAfterTheFirstFrame() {
+            world.listNumbered(10000)
+            const popover = createTemporaryObject(viewComponent, stage, { stateManager: world.stateManager })
+            for (const section of ["accounts", "configurations", "impersonation", "adcStatus"])
+                verify(!find(section, popover), section)
+
+            for (const section of ["accounts", "configurations", "impersonation", "adcStatus"])
+                tryVerify(() => find(section, popover))
+            popover.destroy()
+            world.settle()
+        }
+
+        function test_whatIsOnScreenIsMadeAtOnce() {
+            const popover = createTemporaryObject(viewComponent, stage, { stateManager: world.stateManager })
+            for (const section of ["accounts", "configurations", "impersonation", "adcStatus"])
+                verify(find(section, popover), section)
+            popover.destroy()
+            world.settle()
         }
 
         function test_rowsAreWhereTheyBelongAtAnyPlace() {
