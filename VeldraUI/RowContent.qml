@@ -22,9 +22,9 @@ Item {
     readonly property bool hasSymbol: symbolName !== ""
     readonly property real symbolFrame: 14
 
-    // What most rows of a list do not have is not made.
     implicitHeight: Math.max(symbol.height, texts.height, badge.height)
 
+    // As the subtitle and the mark: in most rows there is none.
     Loader {
         id: symbol
 
